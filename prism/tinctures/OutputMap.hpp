@@ -1,0 +1,82 @@
+/// The steps of which the updates of all colour-map objects are made.
+#pragma once
+
+#include "host/object/Tincture.hpp"
+#include "host/values/TypedSlot.hpp"
+
+namespace prism {
+
+/// The map in the output of a colour-map object, during one update.
+///
+/// An update is a composition of these steps; which ones an object takes, and in
+/// what order, is what tells the objects apart:
+///
+///     OutputMap output(*this, request);      // the map that stands there
+///     if (output.isEmpty())
+///         output.hold(new Ramp);             // or publishNow, the early publish
+///     if (auto* map = output.as<Ramp>()) {   // another object's map is left alone
+///         output.read(color, map->color);    // the parameters, in their order
+///         output.refresh();                  // drop the cache, draw, touch
+///     }
+///     return output.publish();
+class OutputMap {
+public:
+    /// Reads the map that stands in the output for the request's pool.
+    OutputMap(Orlo::Tincture& object, Orlo::VRequest const& request)
+        : object_(object), output_(object.output()), pool_(request.pool()) {
+        Orlo::readParameter(*output_, pool_, map_);
+    }
+
+    /// Whether no live map stands there.
+    bool isEmpty() const { return !map_.alive(); }
+
+    /// Puts a new map in the place of the one held here; nobody sees it yet.
+    void hold(Orlo::Colormap* fresh) { map_ = fresh; }
+
+    /// The same, and lets everybody see it at once.
+    void publishNow(Orlo::Colormap* fresh) {
+        hold(fresh);
+        publish();
+    }
+
+    /// The map as this object's own class, or null if it is another object's.
+    template <class Own>
+    Own* as() const {
+        return dynamic_cast<Own*>(map_.get());
+    }
+
+    /// Reads a parameter; a slot without a value leaves the field as it was.
+    template <class T>
+    void read(Orlo::TypedSlot<T> const& slot, T& field) const {
+        slot.read(pool_, field);
+    }
+
+    /// Whether the slot has changed since the object's last finished update.
+    bool hasChanged(Orlo::SlotPtr const& slot) const { return object_.hasChanged(slot, pool_); }
+
+    /// Drops the cache that a consumer may have left, draws the icon, and makes
+    /// the map the youngest of all objects.
+    void refresh() const {
+        map_->cachedChunk = nullptr;
+        object_.createIcon(map_);
+        map_->touch();
+    }
+
+    /// Offers the map to the output, and tells its listeners. Always true, as
+    /// the result of an update is.
+    bool publish() const {
+        Orlo::StrongPtr<Orlo::VTypedValueBase<Orlo::ColormapPtr>, Orlo::VValueBase> const value(
+            Orlo::valueInPool(*output_, pool_, output_->keepsLocalValues()));
+        if (value && value->setValue(map_))
+            output_->notifyValueChange(value, pool_, "", nullptr, nullptr, nullptr);
+        return true;
+    }
+
+private:
+    Orlo::Tincture& object_;
+    Orlo::ParameterPtr const output_;
+    Orlo::PoolPtr const pool_;
+    Orlo::ColormapPtr map_;
+};
+
+}  // namespace prism

@@ -1,0 +1,23 @@
+/// What plug-ins have reported to the host.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "host/creators/VInitialization.hpp"
+
+namespace Orlo {
+
+/// One call of `VInitialization::initPlugin`. The texts are the plug-in's own
+/// constants and go with it.
+struct PluginReport {
+    VInitialization::InitPluginReason reason;
+    char const* moduleName;
+    char const* token;
+    std::size_t creatorsStanding;  ///< entries in the catalogue at that moment
+};
+
+/// The reports since the last call, in their order. [any]
+LATTICE_API std::vector<PluginReport> takePluginReports();
+
+}  // namespace Orlo

@@ -1,0 +1,40 @@
+#include "runtime/vellum/ColormapValue.hpp"
+
+namespace Orlo {
+
+bool VValueTrait<ColormapPtr>::setValueFromText(ColormapPtr&, std::string const&) {
+    return false;
+}
+
+std::string VValueTrait<ColormapPtr>::Text(ColormapPtr const&) {
+    return "A Colormap Object.";
+}
+
+ColormapValue::ColormapValue() = default;
+ColormapValue::ColormapValue(ColormapPtr const& map) : VValue<ColormapPtr>(map) {}
+ColormapValue::~ColormapValue() = default;
+
+ValuePtr ColormapValue::copy() const {
+    ColormapPtr map;
+    getValue(map);
+    return new ColormapValue(map);
+}
+
+Nucleo::Ageable* ColormapValue::ageable() {
+    ColormapPtr map;
+    getValue(map);
+    return map ? static_cast<Nucleo::Ageable*>(map.get()) : this;
+}
+
+Nucleo::Ageable const* ColormapValue::ageable() const {
+    ColormapPtr map;
+    getValue(map);
+    return map ? static_cast<Nucleo::Ageable const*>(map.get()) : this;
+}
+
+ParameterPtr makeColormapParameter(std::string const& name) {
+    StrongPtr<VValue<ColormapPtr>, VValueBase> const value = new ColormapValue;
+    return new VValueParameter<ColormapPtr>(value, name);
+}
+
+}  // namespace Orlo

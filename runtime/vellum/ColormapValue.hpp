@@ -1,0 +1,34 @@
+/// Values that hold a colour map.
+#pragma once
+
+#include "host/colormap/Colormap.hpp"
+#include "host/values/VValueParameter.hpp"
+
+namespace Orlo {
+
+/// A map has no text of its own to be read back from.
+template <>
+struct VELLUM_API VValueTrait<ColormapPtr> {
+    /// Always false.
+    static bool setValueFromText(ColormapPtr& value, std::string const& text);
+    /// `A Colormap Object.`
+    static std::string Text(ColormapPtr const& value);
+};
+
+/// The value of a colour-map output or input. Its age is that of the map, since
+/// maps are rewritten in place.
+class VELLUM_API ColormapValue : public VValue<ColormapPtr> {
+public:
+    ColormapValue();
+    explicit ColormapValue(ColormapPtr const& map);
+    ~ColormapValue() override;
+
+    ValuePtr copy() const override;
+    Nucleo::Ageable* ageable() override;
+    Nucleo::Ageable const* ageable() const override;
+};
+
+/// A new parameter that holds a colour map, at first none.
+VELLUM_API ParameterPtr makeColormapParameter(std::string const& name);
+
+}  // namespace Orlo
