@@ -1,0 +1,47 @@
+/// Plug-in files, loaded and unloaded.
+#pragma once
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+#include "host/creators/VInitialization.hpp"
+
+namespace workbench {
+
+/// Why a plug-in could not be had: the file and the remedy are in the text.
+class PluginError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// One loaded plug-in.
+///
+/// Loading runs the library's initialisers, which fill the catalogue, and asks
+/// its export whether it fits. Unloading takes its entries and all their
+/// objects away; whoever holds a map or a value that the plug-in made must let
+/// go of it before. Threads: one at a time.
+class PluginFile {
+public:
+    /// Throws `PluginError` if the file is missing, is no library, has no
+    /// export of a plug-in, or if `host` does not take it; nothing stays loaded
+    /// then.
+    PluginFile(std::filesystem::path const& file, Orlo::VInitialization& host);
+    PluginFile(PluginFile const&) = delete;
+    PluginFile& operator=(PluginFile const&) = delete;
+    ~PluginFile();
+
+    std::filesystem::path const& path() const noexcept { return path_; }
+    /// The host's answer as it came back through the export.
+    int answer() const noexcept { return answer_; }
+
+private:
+    std::filesystem::path path_;
+    void* library_ = nullptr;
+    int answer_ = 0;
+};
+
+/// The plug-in that was built beside this program.
+std::filesystem::path pluginBesideProgram();
+
+}  // namespace workbench
