@@ -54,13 +54,27 @@ public:
     /// Whether the slot has changed since the object's last finished update.
     bool hasChanged(Orlo::SlotPtr const& slot) const { return object_.hasChanged(slot, pool_); }
 
+    /// The pool in which this update works.
+    Orlo::PoolPtr const& pool() const noexcept { return pool_; }
+
     /// Drops the cache that a consumer may have left, draws the icon, and makes
     /// the map the youngest of all objects.
     void refresh() const {
-        map_->cachedChunk = nullptr;
-        object_.createIcon(map_);
-        map_->touch();
+        dropCache();
+        drawIcon();
+        touch();
     }
+
+    // The steps of `refresh`, for the objects that leave one out or take another
+    // order, and what some do in the place of a touch. They need a map of any
+    // class.
+    void dropCache() const { map_->cachedChunk = nullptr; }
+    void drawIcon() const { object_.createIcon(map_); }
+    void touch() const { map_->touch(); }
+    /// Makes the map at least as young as the youngest of the object's inputs.
+    void raiseAge() const { map_->raiseAge(object_.age(pool_)); }
+    /// Makes the map at least as young as one of them.
+    void raiseAge(Orlo::SlotPtr const& slot) const { map_->raiseAge(slot->age(pool_)); }
 
     /// Offers the map to the output, and tells its listeners. Always true, as
     /// the result of an update is.
@@ -78,5 +92,13 @@ private:
     Orlo::PoolPtr const pool_;
     Orlo::ColormapPtr map_;
 };
+
+/// The own `must_update` of most objects: whether no live map stands in the
+/// output. That a parameter has changed is for the host to see.
+inline bool hasNoMap(Orlo::Tincture const& object, Orlo::VRequest const& request) {
+    Orlo::ColormapPtr map;
+    Orlo::readParameter(*object.output(), request.pool(), map);
+    return !map.alive();
+}
 
 }  // namespace prism
