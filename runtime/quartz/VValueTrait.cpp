@@ -73,6 +73,8 @@ bool VValueTrait<Enum>::setValueFromText(Enum& value, std::string const& text) {
     if (!readCases(reader, words))
         return false;
     bool const bare = !words;
+    if (bare && word.empty())  // an empty word cannot be chosen, since it means none
+        return !value || value->empty();
     if (bare ? !value : value && !sameWords(value, words))
         return false;
     if (word.empty() && !bare) {

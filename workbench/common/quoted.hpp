@@ -1,0 +1,15 @@
+/// Foreign texts in messages.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace workbench {
+
+/// The text between single quotes, fit for one line of a message: control
+/// characters are written as `\xNN`, and what exceeds `most` bytes is left out
+/// for "...".
+std::string quoted(std::string_view text, std::size_t most = 80);
+
+}  // namespace workbench
