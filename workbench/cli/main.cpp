@@ -1,26 +1,118 @@
+/// `telmbench`, the program of the host.
+#include <algorithm>
 #include <cstdio>
+#include <new>
 
-#include "host/object/Tincture.hpp"
-#include "runtime/lattice/Catalogue.hpp"
-#include "runtime/lattice/Diagnostics.hpp"
-#include "workbench/plugin/PluginFile.hpp"
+#include "workbench/cli/arguments.hpp"
+#include "workbench/cli/commands.hpp"
+#include "workbench/cli/numbers.hpp"
+#include "workbench/common/errors.hpp"
+#include "workbench/common/inQuotes.hpp"
+#include "workbench/common/nearest.hpp"
 
-using namespace Orlo;
-int main(int argc, char** argv) {
-    setVerbosity(argc > 1 ? 100 : 0);
-    (void)argv;
-    VInitialization host;
-    workbench::PluginFile plugin(workbench::pluginBesideProgram(), host);
-    PoolPtr pool = new ValuePool("Viewer1");
-    for (auto const& c : catalogue()) {
-        auto o = c->create("", Nucleo::Intercube(), nullptr);
-        VRequest r(pool);
-        o->request(r, 0, nullptr, nullptr);
-        StrongPtr<Tincture, VManagedObjectBase> t(o);
-        ColormapPtr map;
-        readParameter(*t->output(), pool, map);
-        auto col = map->getColor(0.5);
-        std::printf("%s %d %g %g %g %g age %d icons %u\n", c->keyname("/").c_str(), c->orderNumber(),
-                    col[0], col[1], col[2], col[3], static_cast<int>(map->age()), t->iconCount());
+namespace workbench {
+
+namespace {
+
+enum ExitStatus { Done = 0, WorkFailed = 1, CallWrong = 2 };
+
+constexpr char Summary[] =
+    "telmbench loads a plug-in of colour maps, tells what is in it, looks colours up and draws.";
+
+constexpr char Footer[] = R"(Examples:
+  telmbench catalogue
+  telmbench describe Hypsometric
+  telmbench lookup Hypsometric 0.25 0.5
+  telmbench ramp Hypsometric -o hypsometric.png
+'telmbench COMMAND --help' tells more about a command.
+
+Exit status: 0 done, 1 the work failed, 2 the call was wrong.)";
+
+void addCommonOptions(CLI::App& program, CommonOptions& common) {
+    program
+        .add_option("--plugin", common.plugin,
+                    "The plug-in to load, instead of the one beside "
+                    "the program")
+        ->type_name("FILE");
+    program
+        .add_option("--verbosity", common.verbosity,
+                    "Show the host's messages up to this level on standard error: 50 for "
+                    "parameters that are set, 100 for creators and objects too")
+        ->type_name("N")
+        ->check(CLI::NonNegativeNumber);
+    program.add_flag("--refuse", common.refuse,
+                     "Answer the plug-in \"not compatible\", to see what a host that does not "
+                     "fit gets");
+    program.set_version_flag("--version", "telmbench " PRISM_VERSION);
+}
+
+void addCommands(CLI::App& program, CommonOptions const& common) {
+    program.require_subcommand(1);
+    for (auto* const add : {addCatalogue, addDescribe, addLookup, addRamp})
+        add(program, common);
+}
+
+/// The arguments as the parser wants them: the last one first, and negative
+/// numbers behind a blank, which it would take for options.
+std::vector<std::string> forParser(std::vector<std::string> arguments) {
+    for (std::string& text : arguments)
+        if (text.starts_with('-') && readNumber(text))
+            text.insert(0, " ");
+    std::ranges::reverse(arguments);
+    return arguments;
+}
+
+int fail(std::string text, ExitStatus status) {
+    std::ranges::replace(text, '\n', ' ');
+    std::fprintf(stderr, "telmbench: %s\n", text.c_str());
+    return status;
+}
+
+/// What is wrong with the arguments, and where help is.
+std::string misuse(CLI::App const& program, CLI::ParseError const& error) {
+    std::vector<CLI::App*> const chosen = program.get_subcommands();
+    if (!chosen.empty())
+        return std::string(error.what()) + "; 'telmbench " + chosen.front()->get_name() +
+               " --help' tells how to call it";
+    std::string const remedy = "; 'telmbench --help' lists the commands";
+    std::vector<std::string> const rest = program.remaining();
+    if (rest.empty() || rest.front().starts_with('-'))
+        return error.what() + remedy;
+    std::vector<std::string> names;
+    for (CLI::App const* const command : program.get_subcommands(nullptr))
+        names.push_back(command->get_name());
+    return "there is no command " + inQuotes(rest.front()) +
+           suggestion(rest.front(), names, remedy);
+}
+
+int run(std::vector<std::string> const& arguments) {
+    CommonOptions common;
+    CLI::App program(Summary, "telmbench");
+    program.allow_windows_style_options(false);  // a path may begin with a slash
+    program.fallthrough();
+    program.footer(Footer);
+    addCommonOptions(program, common);
+    addCommands(program, common);
+    try {
+        program.parse(forParser(arguments));
+        return Done;
+    } catch (CLI::ParseError const& error) {
+        if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success))
+            return program.exit(error);  // help, version
+        return fail(misuse(program, error), CallWrong);
+    } catch (CallError const& error) {
+        return fail(error.what(), CallWrong);
+    } catch (std::bad_alloc const&) {
+        return fail("the memory does not suffice; ask for less", WorkFailed);
+    } catch (std::exception const& error) {
+        return fail(error.what(), WorkFailed);
     }
+}
+
+}  // namespace
+
+}  // namespace workbench
+
+int main(int count, char** texts) {
+    return workbench::run(workbench::programArguments(count, texts));
 }

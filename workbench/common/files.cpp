@@ -7,7 +7,7 @@
 #include <system_error>
 
 #include "workbench/common/errors.hpp"
-#include "workbench/common/quoted.hpp"
+#include "workbench/common/inQuotes.hpp"
 
 namespace workbench {
 
@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 namespace {
 
 [[noreturn]] void fail(char const* what, fs::path const& file, std::string const& reason) {
-    throw WorkError(std::string("cannot ") + what + " " + quoted(file.string(), 1000) + ": " +
+    throw WorkError(std::string("cannot ") + what + " " + inQuotes(file.string(), 1000) + ": " +
                     reason);
 }
 

@@ -1,8 +1,8 @@
 #include "workbench/common/parameters.hpp"
 
 #include "workbench/common/errors.hpp"
+#include "workbench/common/inQuotes.hpp"
 #include "workbench/common/nearest.hpp"
-#include "workbench/common/quoted.hpp"
 #include "workbench/common/typeNames.hpp"
 
 namespace workbench {
@@ -15,14 +15,14 @@ Orlo::ParameterPtr findParameter(Orlo::VObject const& object, std::string const&
     if (slot && slot->isInput())
         return slot->ownParameter();
     if (slot)
-        throw CallError("the parameter " + quoted(name) + " of " + quoted(object.Name()) +
+        throw CallError("the parameter " + inQuotes(name) + " of " + inQuotes(object.Name()) +
                         " is an output; it cannot be set");
     std::vector<std::string> const names = parameterNames(object);
     std::string const remedy = names.empty() ? "; it has none" : "; it has";
     std::string all;
     for (std::string const& each : names)
-        all += (all.empty() ? " " : ", ") + quoted(each);
-    throw CallError(quoted(object.Name()) + " has no parameter " + quoted(name) +
+        all += (all.empty() ? " " : ", ") + inQuotes(each);
+    throw CallError(inQuotes(object.Name()) + " has no parameter " + inQuotes(name) +
                     suggestion(name, names, remedy + all));
 }
 
@@ -33,10 +33,10 @@ Orlo::ValuePtr parsed(Orlo::VParameter const& parameter, std::string const& text
     if (value && value->setFromText(text))
         return value;
     Orlo::ValuePtr const present = Orlo::valueInPool(parameter, context, false);
-    throw CallError("the text " + quoted(text) + " is no value of the parameter " +
-                    quoted(parameter.localName()) +
+    throw CallError("the text " + inQuotes(text) + " is no value of the parameter " +
+                    inQuotes(parameter.localName()) +
                     (present ? " of type " + typeName(present->type()) +
-                                   "; a right one is the present " + quoted(present->text())
+                                   "; a right one is the present " + inQuotes(present->text())
                              : ", which holds no value"));
 }
 

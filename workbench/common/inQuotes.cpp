@@ -1,4 +1,4 @@
-#include "workbench/common/quoted.hpp"
+#include "workbench/common/inQuotes.hpp"
 
 namespace workbench {
 
@@ -21,7 +21,7 @@ std::string printable(char c) {
 
 }  // namespace
 
-std::string quoted(std::string_view text, std::size_t most) {
+std::string inQuotes(std::string_view text, std::size_t most) {
     bool const tooLong = text.size() > most;
     std::string result = "'";
     for (char const c : tooLong ? text.substr(0, cutBefore(text, most)) : text)

@@ -1,0 +1,156 @@
+/// What each creator passes on, and what a fresh object has.
+#include <gmock/gmock.h>
+
+#include "host/pointers/Typename.hpp"
+#include "runtime/lattice/Catalogue.hpp"
+#include "runtime/vellum/ColormapValue.hpp"
+#include "tests/prism/MapDescription.hpp"
+#include "tests/support/PluginTest.hpp"
+
+namespace tests {
+namespace {
+
+using namespace Orlo;
+
+class Creator : public PluginTest, public testing::WithParamInterface<MapDescription> {
+protected:
+    VCreatorBase const& creator() const { return *findCreator(GetParam().key()); }
+    CreatorRow const& row() const { return GetParam().creator; }
+};
+
+TEST_P(Creator, HasTheOrderNumberAndIsNotHidden) {
+    EXPECT_EQ(creator().orderNumber(), row().order);
+    EXPECT_FALSE(creator().isHidden());
+}
+
+TEST_P(Creator, HasThePreferencesOrNone) {
+    PreferencesPtr const& preferences = creator().preferences();
+    ASSERT_EQ(bool(preferences), !row().preferences.empty());
+    if (preferences) {
+        EXPECT_THAT(preferences->words(), testing::ElementsAreArray(row().preferences));
+    }
+}
+
+TEST_P(Creator, HasTheProperties) {
+    VCreatorBase const& entry = creator();
+    EXPECT_EQ(entry.get(VCreatorPropertyElements::Category), row().category);
+    EXPECT_EQ(entry.get(VCreatorPropertyElements::Name), GetParam().name);
+    EXPECT_EQ(entry.get(VCreatorPropertyElements::Description), row().description);
+    EXPECT_EQ(entry.get(VCreatorPropertyElements::Todo), row().todo);
+    EXPECT_EQ(entry.get(VCreatorPropertyElements::Tags), row().tags);
+    EXPECT_EQ(entry.get(VCreatorPropertyElements::Source), row().source);
+    EXPECT_EQ(entry.get(VCreatorPropertyElements::Date), row().date);
+}
+
+TEST_P(Creator, IsASourceOfColourMaps) {
+    auto const sources = inputCreators(typeid(ColormapPtr));
+    auto const mine = [&](WeakInputCreatorPtr const& each) {
+        return each.controlBlock() == creator().controlBlock();
+    };
+    EXPECT_EQ(std::ranges::count_if(sources, mine), 1);
+}
+
+TEST_P(Creator, MakesAnObjectWithItsOwnNameUnlessGivenOne) {
+    EXPECT_EQ(create(GetParam().key())->Name(), GetParam().name);
+    EXPECT_EQ(create(GetParam().key(), "Mine")->Name(), "Mine");
+}
+
+TEST_P(Creator, MakesObjectsThatKnowIt) {
+    ObjectPtr const object = create(GetParam().key());
+    EXPECT_EQ(object->creator().get(), &creator());
+    EXPECT_EQ(object->type_key(), GetParam().key());
+    EXPECT_EQ(object->domain(), typeid(VObject));
+    EXPECT_EQ(creator().domain(), typeid(VInputCreatorBase));
+    EXPECT_FALSE(object->owner());
+    EXPECT_FALSE(creator().owner());
+}
+
+TEST_P(Creator, PassesItsPreferencesUnchangedWhenGivenNone) {
+    ObjectPtr const object = create(GetParam().key());
+    EXPECT_EQ(object->preferences().get(), creator().preferences().get());
+}
+
+TEST_P(Creator, UnitesItsPreferencesWithThoseGiven) {
+    PreferencesPtr const given = new VCreationPreferences("local");
+    ObjectPtr const object = create(GetParam().key(), "", given);
+    std::vector<std::string> expected = row().preferences;
+    expected.emplace_back("local");
+    EXPECT_THAT(object->preferences()->words(), testing::UnorderedElementsAreArray(expected));
+    EXPECT_EQ(given->words().size(), 1u) << "the given set is copied, not extended";
+    if (row().preferences.empty()) {
+        EXPECT_EQ(object->preferences().get(), given.get()) << "no union with nothing";
+    }
+}
+
+TEST_P(Creator, NamesChildrenAfterTheirParent) {
+    EXPECT_EQ(creator().createChildname("Slice"), GetParam().name + "_for_Slice");
+    EXPECT_EQ(creator().createChildname(""), GetParam().name);
+}
+
+TEST_P(Creator, AcceptsNoDeadObject) {
+    EXPECT_TRUE(creator().accept(nullptr).empty());
+    ObjectPtr const object = create(GetParam().key());
+    EXPECT_EQ(creator().accept(object).size(), GetParam().parameters.size());
+}
+
+class FreshObject : public Creator {};
+
+TEST_P(FreshObject, HasTheOutputColormapAndNoOther) {
+    ObjectPtr const object = create(GetParam().key());
+    std::vector<std::string> outputs;
+    object->iterateOutputs([&](SlotPtr const& slot) {
+        outputs.push_back(slot->name());
+        EXPECT_EQ(slot->parameter()->DefaultValue()->type(), typeid(ColormapPtr));
+    });
+    EXPECT_THAT(outputs, testing::ElementsAre("colormap"));
+    EXPECT_EQ(tincture(*object).output().get(), object->slot("colormap")->parameter().get());
+    EXPECT_TRUE(tincture(*object).output()->keepsLocalValues());
+}
+
+TEST_P(FreshObject, HasNoMapAndNoIcon) {
+    ObjectPtr const object = create(GetParam().key());
+    EXPECT_FALSE(mapOf(*object, makePool()));
+    EXPECT_EQ(tincture(*object).iconCount(), 0u);
+    EXPECT_EQ(object->xpm_icon(), "");
+}
+
+TEST_P(FreshObject, HasTheParametersInTheirOrder) {
+    ObjectPtr const object = create(GetParam().key());
+    auto const found = inputs(*object);
+    auto const& expected = GetParam().parameters;
+    ASSERT_EQ(found.size(), expected.size());
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        SCOPED_TRACE(expected[i].name);
+        VParameter const& parameter = *found[i]->parameter();
+        EXPECT_EQ(found[i]->name(), expected[i].name);
+        EXPECT_EQ(Nucleo::Typename(parameter.DefaultValue()->type()), expected[i].type);
+        EXPECT_EQ(parameter.DefaultValue()->text(), expected[i].defaultText);
+        EXPECT_EQ(parameter.ownValue()->text(), expected[i].defaultText);
+        EXPECT_EQ(found[i]->expertLevel(), expected[i].expertLevel);
+        EXPECT_EQ(parameter.flags & VParameter::Computed, 0u);
+    }
+}
+
+TEST_P(FreshObject, HasTheProperties) {
+    ObjectPtr const object = create(GetParam().key());
+    for (ParameterRow const& row : GetParam().parameters) {
+        SCOPED_TRACE(row.name);
+        ValueMap const* const properties = object->slot(row.name)->parameter()->properties();
+        ASSERT_EQ(properties == nullptr ? 0 : properties->entries().size(), row.properties.size());
+        for (Setting const& property : row.properties) {
+            ValuePtr const value = properties->getValue(property.name);
+            ASSERT_TRUE(value) << property.name;
+            EXPECT_EQ(value->text(), property.text) << property.name;
+        }
+    }
+}
+
+std::string nameOf(testing::TestParamInfo<MapDescription> const& map) {
+    return testName(map.param.name);
+}
+
+INSTANTIATE_TEST_SUITE_P(Maps, Creator, testing::ValuesIn(describedMaps()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Maps, FreshObject, testing::ValuesIn(describedMaps()), nameOf);
+
+}  // namespace
+}  // namespace tests

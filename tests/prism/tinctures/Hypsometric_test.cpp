@@ -1,0 +1,143 @@
+/// The four entries of elevation tints.
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "tests/prism/MapDescription.hpp"
+#include "tests/support/PluginTest.hpp"
+
+namespace tests {
+namespace {
+
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+
+std::vector<Tessar::rgba_float_t> const Tints{
+    {0.1, 0.1, 0.1, 0}, {0.2, 0, 0.3, 0},    {0.1, 0, 0.65, 0},  {0, 0, 0.85, 0},
+    {0, 0.25, 0.9, 0},  {0, 0.5, 1, 0},      {0, 0.65, 1, 0},    {0, 0.85, 0.9, 0},
+    {0, 1, 0.9, 0},     {0.7, 1, 1, 0},      {0.2, 0.5, 0, 0},   {0, 0.7, 0, 0},
+    {0, 1, 0, 0},       {0.7, 1, 0, 0},      {1, 1, 0, 0},       {1, 0.75, 0, 0},
+    {0.9, 0.5, 0, 0},   {0.6, 0.15, 0.1, 0}, {0.5, 0.5, 0.5, 0}, {0.8, 0.8, 0.9, 0},
+};
+
+std::vector<Setting> const Inverse{{"options", " inverse"}};
+std::vector<Setting> const Off{{"options", " -inverse"}};
+
+/// All tints over the values 0 to 1.
+std::vector<LookupRow> allTints() {
+    auto const row = [](std::size_t k) { return Tints[k]; };
+    return rowsOf(Tints) + std::vector<LookupRow>{
+                               {"zero is row 0", Off, 0.0, row(0)},
+                               {"below 0.025 is row 0", {}, 0.0249, row(0)},
+                               {"from 0.025 on is row 1", {}, 0.0251, row(1)},
+                               {"0.025 itself is row 1", {}, 0.025, row(1)},
+                               {"the land begins at 0.475", {}, 0.475, row(10)},
+                               {"the water ends at 0.475", {}, 0.4749, row(9)},
+                               {"a half is row 10", {}, 0.5, row(10)},
+                               {"from 0.925 on is row 19", {}, 0.925, row(19)},
+                               {"below 0.925 is row 18", {}, 0.9249, row(18)},
+                               {"one is 20.5, limited to row 19", {}, 1.0, row(19)},
+                               {"below zero is row 0", {}, -0.5, row(0)},
+                               {"above one is row 19", {}, 1.5, row(19)},
+                               {"the greatest 32-bit row is row 19", {}, 1.0e8, row(19)},
+                               {"no number is row 0", {}, NotANumber, row(0)},
+                               {"beyond 32 bits upward is row 0, not 19", {}, 1.1e8, row(0)},
+                               {"beyond 32 bits downward is row 0", {}, -1.1e8, row(0)},
+                               {"infinity is row 0", {}, Infinity, row(0)},
+                               {"negative infinity is row 0", {}, -Infinity, row(0)},
+                               {"inverse: zero is row 19", Inverse, 0.0, row(19)},
+                               {"inverse: one is row 0", Inverse, 1.0, row(0)},
+                               {"inverse: a half is row 10, not 9", Inverse, 0.5, row(10)},
+                               {"inverse: above one is row 0", Inverse, 2.0, row(0)},
+                               {"inverse: below zero is row 19", Inverse, -1.0, row(19)},
+                               {"inverse: no number is row 0", Inverse, NotANumber, row(0)},
+                               {"inverse: beyond 32 bits is row 0", Inverse, -1.1e8, row(0)},
+                               {"inverse: infinity is row 0", Inverse, Infinity, row(0)},
+                               {"inverse: negative infinity is row 0", Inverse, -Infinity, row(0)},
+                           };
+}
+
+/// Row k of the shifted instance, in the middle and near both ends of its band.
+std::vector<LookupRow> shiftedBands() {
+    std::vector<LookupRow> rows;
+    for (std::size_t k = 0; k < Tints.size(); ++k) {
+        double const low = static_cast<double>(k) / 10.0 - 1.0;
+        std::string const band = "band " + std::to_string(k);
+        rows.push_back({band + " begins", {}, low + 0.0001, Tints[k]});
+        rows.push_back({band + " has its middle", {}, low + 0.05, Tints[k]});
+        rows.push_back({band + " ends", {}, low + 0.0999, Tints[k]});
+        rows.push_back({band + " inverse", Inverse, 1.0 - (low + 0.05), Tints[k]});
+    }
+    return rows;
+}
+
+/// The land tints over 0 to 1, the water tints over -1 to 0.
+std::vector<LookupRow> landTints() {
+    auto const row = [](std::size_t k) { return Tints[k]; };
+    return shiftedBands() +
+           std::vector<LookupRow>{
+               {"zero is row 10, the coast", Off, 0.0, row(10)},
+               {"just below zero is row 9", {}, -0.001, row(9)},
+               {"0.95 is row 19", {}, 0.95, row(19)},
+               {"one is row 19 through the limit", {}, 1.0, row(19)},
+               {"above one is row 19", {}, 1.5, row(19)},
+               {"-0.5 is row 5", {}, -0.5, row(5)},
+               {"-1 is row 0", {}, -1.0, row(0)},
+               {"-2 is row 0", {}, -2.0, row(0)},
+               {"no number is row 0", {}, NotANumber, row(0)},
+               {"beyond 32 bits upward is row 0", {}, 2.2e8, row(0)},
+               {"beyond 32 bits downward is row 0", {}, -2.2e8, row(0)},
+               {"infinity is row 0", {}, Infinity, row(0)},
+               {"negative infinity is row 0", {}, -Infinity, row(0)},
+               {"inverse: zero is row 19 through the limit", Inverse, 0.0, row(19)},
+               {"inverse: one is row 10", Inverse, 1.0, row(10)},
+               {"inverse: two is row 0", Inverse, 2.0, row(0)},
+               {"inverse: no number is row 0", Inverse, NotANumber, row(0)},
+               {"inverse: beyond 32 bits is row 0", Inverse, -2.2e8, row(0)},
+           };
+}
+
+HelpRow const Help{
+    .shortText =
+        "A colormap specifically useful for Bathymetric and topographic displays, "
+        "providing  bluish colors for low values and green/yellow/brownish tones for "
+        "large values. ",
+    .link = "https://en.wikipedia.org/wiki/Hypsometric_tints",
+    .longText =
+        "A colormap specifically useful for Bathymetric and topographic displays, "
+        "providing  bluish colors for low values and green/yellow/brownish tones for "
+        "large values.  This color scheme is known as "
+        "<A HREF=\"https://en.wikipedia.org/wiki/Hypsometric_tints\"> hypsometric "
+        "tints</A>.<BR> "};
+
+MapDescription hypsometric(std::string const& name, std::vector<std::string> const& preferences,
+                           std::string const& description, std::string const& tags,
+                           std::vector<LookupRow> const& lookups) {
+    return {.name = name,
+            .creator = {.order = 0,
+                        .preferences = preferences,
+                        .description = description,
+                        .tags = tags,
+                        .source = "prism/tinctures/Hypsometric"},
+            .parameters = {{"options", "Orlo::FlagList", " -inverse", 1}},
+            .size = 20,
+            .cycle = {.makes = Makes::WhenParameterChanged, .change = Inverse},
+            .help = Help,
+            .lookups = lookups};
+}
+
+DescribedMap const bathymetricColors{hypsometric("BathymetricColors", {"hypsometric"},
+                                                 "Provides a color map with hypsometric tints.",
+                                                 "General;Tidewatch", allTints())};
+DescribedMap const plain{hypsometric("Hypsometric", {"hypsometric"},
+                                     "Provides a color map with hypsometric tints.", "General",
+                                     allTints())};
+DescribedMap const topoBathy{hypsometric(
+    "TopoBathy", {"hypsometric"}, "Provides a color map with bathymetric and hypsometric tints",
+    "General;Tidewatch", allTints())};
+DescribedMap const topographic{hypsometric("Topographic", {"hypsometric", "topographic"},
+                                           "Provides a color map with only hypsometric tints",
+                                           "General;Tidewatch", landTints())};
+
+}  // namespace
+}  // namespace tests

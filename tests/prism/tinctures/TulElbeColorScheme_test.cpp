@@ -1,0 +1,60 @@
+/// The Elbe scheme of point classes.
+#include <limits>
+
+#include "tests/prism/MapDescription.hpp"
+
+namespace tests {
+namespace {
+
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double Tiny = std::numeric_limits<double>::denorm_min();
+
+std::vector<Tessar::rgba_float_t> table() {
+    std::vector<Tessar::rgba_float_t> rows(67);
+    rows[0] = {1, 0.51373, 0.06667, 0};
+    rows[2] = {0.56078, 0.65098, 0.15686, 0};
+    rows[9] = {0.24706, 0.76078, 0.82353, 0};
+    rows[20] = {0.81961, 0.25098, 0.08627, 0};
+    rows[25] = {0.61569, 0.17255, 0.04706, 0};
+    rows[26] = {0.82745, 0.08627, 0.35294, 0};
+    rows[29] = {0.65098, 0.09804, 0.62353, 0};
+    rows[30] = {0.16863, 0.52549, 0.79608, 0};
+    rows[31] = {0.03529, 0.68627, 0.4, 0};
+    return rows;
+}
+
+Tessar::rgba_float_t const ClassZero{1, 0.51373, 0.06667, 0};
+Tessar::rgba_float_t const Empty{0, 0, 0, 0};
+
+DescribedMap const map{{
+    .name = "TulElbeColorScheme",
+    .creator = {.order = 0,
+                .preferences = {"LidarTul"},
+                .description = "Provides a color map with Tul Lass classification for points.",
+                .tags = "General;Tidewatch",
+                .source = "prism/tinctures/TulElbeColorScheme"},
+    .parameters = {},
+    .size = 67,
+    .cycle = {},
+    .help = {.shortText = "TulLass Color Scheme"},
+    .lookups = rowsOf(table()) +
+               std::vector<LookupRow>{
+                   {"zero is row 0", {}, 0.0, ClassZero},
+                   {"1/67 is row 1, which is empty", {}, 1.0 / 67.0, Empty},
+                   {"a half is row 34, which is empty", {}, 0.5, Empty},
+                   {"one is 67.5, limited to row 66, which is empty", {}, 1.0, Empty},
+                   {"just below zero truncates to row 0", {}, -0.49 / 67.0, ClassZero},
+                   {"the smallest negative number is row 0", {}, -Tiny, ClassZero},
+                   {"far below zero is limited to row 0", {}, -3.0, ClassZero},
+                   {"far above one is limited to row 66", {}, 7.0, Empty},
+                   {"no number is row 0", {}, NotANumber, ClassZero},
+                   {"beyond 32 bits upward is row 0", {}, 1e300, ClassZero},
+                   {"beyond 32 bits downward is row 0", {}, -1e300, ClassZero},
+                   {"infinity is row 0", {}, Infinity, ClassZero},
+                   {"negative infinity is row 0", {}, -Infinity, ClassZero},
+               },
+}};
+
+}  // namespace
+}  // namespace tests

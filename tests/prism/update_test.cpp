@@ -1,0 +1,297 @@
+/// The update cycle: the common path, and each map's departures from it.
+#include <gtest/gtest.h>
+
+#include "tests/prism/MapDescription.hpp"
+#include "tests/support/PluginTest.hpp"
+#include "tests/support/RecordingOutput.hpp"
+
+namespace tests {
+namespace {
+
+using namespace Orlo;
+using Nucleo::Ageable;
+
+/// A map that no object of the library has made.
+class ForeignMap : public Colormap {
+public:
+    int getMin() const override { return 0; }
+    int getMax() const override { return 1; }
+    int getSize() const override { return 2; }
+    rgba_float_t getColor(double) const override { return {0.25, 0.5, 0.75, 1}; }
+    std::string getLabel() const override { return {}; }
+    std::intptr_t getExtra() const override { return 0; }
+};
+
+/// An object of the entry with a recording output in a pool.
+class Update : public PluginTest, public testing::WithParamInterface<MapDescription> {
+protected:
+    void SetUp() override {
+        pool_ = makePool();
+        object_ = create(GetParam().key());
+        output_ = std::make_unique<RecordingOutput>(*object_, pool_);
+    }
+
+    void TearDown() override {
+        output_.reset();
+        pool_ = nullptr;
+        object_ = nullptr;
+    }
+
+    CycleRow const& cycle() const { return GetParam().cycle; }
+    std::size_t publishings(bool newMap) const {
+        return (newMap && cycle().publishesEarly ? 1u : 0u) + (cycle().publishesAtEnd ? 1u : 0u);
+    }
+    void change() {
+        for (Setting const& setting : cycle().change)
+            set(*object_, setting.name, setting.text);
+    }
+    bool mustUpdate() const { return object_->must_update(VRequest(pool_), 0.0); }
+
+    ObjectPtr object_;
+    PoolPtr pool_;
+    std::unique_ptr<RecordingOutput> output_;
+};
+
+TEST_P(Update, AlwaysAnswersTrue) {
+    EXPECT_TRUE(forceUpdate(*object_, pool_));
+    EXPECT_TRUE(forceUpdate(*object_, pool_));
+}
+
+TEST_P(Update, AtFirstPublishesOneMapAsOftenAsItsRuleSays) {
+    update(*object_, pool_);
+    ASSERT_EQ(output_->offers().size(), publishings(true));
+    for (Offer const& offer : output_->offers())
+        EXPECT_EQ(offer.map.get(), output_->map().get());
+    EXPECT_TRUE(output_->map());
+}
+
+TEST_P(Update, AfterwardsPublishesOnlyAtTheEnd) {
+    update(*object_, pool_);
+    output_->clear();
+    forceUpdate(*object_, pool_);
+    EXPECT_EQ(output_->offers().size(), publishings(cycle().makes == Makes::Always));
+}
+
+TEST_P(Update, NotifiesOnceForEachPublishingThatTheOutputTakes) {
+    update(*object_, pool_);
+    EXPECT_EQ(output_->notifications(), static_cast<int>(publishings(true)));
+}
+
+TEST_P(Update, NotifiesNobodyIfTheOutputReportsNoChange) {
+    output_->answer(false);
+    update(*object_, pool_);
+    EXPECT_EQ(output_->offers().size(), publishings(true));
+    EXPECT_EQ(output_->notifications(), 0);
+}
+
+TEST_P(Update, PublishesEarlyBeforeTheIconAndLateBehindIt) {
+    update(*object_, pool_);
+    ASSERT_FALSE(output_->offers().empty());
+    if (cycle().publishesEarly) {
+        EXPECT_EQ(output_->offers().front().icons, 0u);
+    }
+    if (cycle().publishesAtEnd) {
+        EXPECT_EQ(output_->offers().back().icons, cycle().drawsIcon ? 1u : 0u);
+    }
+}
+
+TEST_P(Update, DrawsOneIconOrNone) {
+    for (int i = 0; i < 2; ++i) {
+        output_->clear();
+        forceUpdate(*object_, pool_);
+        EXPECT_EQ(output_->icons(), cycle().drawsIcon ? 1u : 0u);
+    }
+    EXPECT_EQ(object_->xpm_icon().empty(), !cycle().drawsIcon);
+}
+
+TEST_P(Update, PublishesAMapThatAnswersBeforeAnyFieldIsSet) {
+    update(*object_, pool_);
+    for (Offer const& offer : output_->offers()) {
+        EXPECT_EQ(offer.least, 0);
+        EXPECT_EQ(offer.greatest, 1);
+        EXPECT_FALSE(offer.labelled);
+    }
+}
+
+TEST_P(Update, KeepsTheMapUnlessItAlwaysMakesOne) {
+    update(*object_, pool_);
+    ColormapPtr const first = output_->map();
+    update(*object_, pool_);
+    forceUpdate(*object_, pool_);
+    EXPECT_EQ(output_->map().get() == first.get(), cycle().makes != Makes::Always);
+}
+
+TEST_P(Update, ThroughRequestsKeepsTheMapAndItsColoursWhileNothingChanges) {
+    ColormapPtr const first = update(*object_, pool_);
+    output_->clear();
+    EXPECT_EQ(update(*object_, pool_).get(), first.get());
+    EXPECT_TRUE(output_->offers().empty()) << "no update was due";
+}
+
+TEST_P(Update, EmptiesTheCacheOfItsMap) {
+    update(*object_, pool_);
+    ColormapPtr const map = output_->map();
+    Nucleo::WeakPtr<Nucleo::ChunkBase, Nucleo::ChunkBase> chunk;
+    {
+        Nucleo::StrongPtr<Nucleo::Chunk<double>, Nucleo::ChunkBase> const cache =
+            new Nucleo::Chunk<double>(3);
+        map->cachedChunk = cache;
+        chunk = Nucleo::WeakPtr<Nucleo::ChunkBase, Nucleo::ChunkBase>(cache);
+    }
+    forceUpdate(*object_, pool_);
+    EXPECT_EQ(chunk.alive(), !cycle().dropsCache);
+}
+
+TEST_P(Update, GivesTheMapTheAgeThatItsRuleSays) {
+    update(*object_, pool_);
+    change();
+    Ageable::GlobalTime.fetch_add(10);
+    Ageable::Stamp const before = Ageable::now();
+    Ageable::Stamp const madeBefore = output_->map()->age();
+    output_->clear();
+    forceUpdate(*object_, pool_);
+    Ageable::Stamp const age = output_->map()->age();
+    Ageable::Stamp const slots = object_->age(pool_);
+    switch (cycle().age) {
+    case Age::Touched:
+        EXPECT_EQ(age, before + 1);
+        EXPECT_EQ(output_->offers().back().mapAge, age) << "touched, then offered";
+        break;
+    case Age::Kept:
+        EXPECT_EQ(Ageable::now(), before) << "nothing advances the time";
+        EXPECT_EQ(age, before) << "the new map starts with the present time";
+        break;
+    case Age::Raised:
+        EXPECT_EQ(Ageable::now(), before) << "nothing advances the time";
+        EXPECT_EQ(age, std::max(madeBefore, slots));
+        break;
+    case Age::RaisedThenTouched:
+        EXPECT_EQ(age, before + 1);
+        EXPECT_EQ(output_->offers().back().mapAge, std::max(madeBefore, slots))
+            << "raised, offered, then touched";
+        break;
+    }
+}
+
+TEST_P(Update, TreatsAForeignMapAsItsRuleSays) {
+    ColormapPtr const foreign = new ForeignMap;
+    foreign->cachedChunk = new Nucleo::Chunk<double>(1);
+    Ageable::Stamp const ageBefore = foreign->age();
+    update(*object_, pool_);
+    output_->place(foreign);
+    output_->clear();
+    Ageable::GlobalTime.fetch_add(5);
+    forceUpdate(*object_, pool_);
+    bool const replaced = cycle().foreign == Foreign::Replaced;
+    bool const drawn = cycle().foreign == Foreign::DrawnAndTouched || replaced;
+    EXPECT_EQ(output_->map().get() != foreign.get(), replaced);
+    EXPECT_EQ(output_->offers().size(), publishings(replaced));
+    EXPECT_EQ(output_->icons(), drawn ? 1u : 0u);
+    EXPECT_TRUE(foreign->cachedChunk) << "the cache of a foreign map is not the object's";
+    switch (cycle().foreign) {
+    case Foreign::OfferedBack:
+    case Foreign::Replaced:
+        EXPECT_EQ(foreign->age(), ageBefore);
+        break;
+    case Foreign::DrawnAndTouched:
+        EXPECT_EQ(foreign->age(), Ageable::now());
+        break;
+    case Foreign::Raised:
+        EXPECT_EQ(foreign->age(), std::max(ageBefore, object_->age(pool_)));
+        break;
+    }
+}
+
+TEST_P(Update, IsDueOnAFreshObjectAndNotAfterAnUpdate) {
+    EXPECT_TRUE(mustUpdate());
+    update(*object_, pool_);
+    EXPECT_FALSE(mustUpdate());
+}
+
+TEST_P(Update, OfAnObjectWithItsOwnRuleIsDueOnlyWithoutAMap) {
+    update(*object_, pool_);
+    if (cycle().ownMustUpdate) {
+        change();
+        EXPECT_FALSE(mustUpdate()) << "it asks by itself only when there is no map at all";
+        output_->place(new ForeignMap);
+        EXPECT_FALSE(mustUpdate()) << "any map will do";
+        output_->place(nullptr);
+        EXPECT_TRUE(mustUpdate());
+    } else if (!cycle().change.empty()) {
+        change();
+        EXPECT_TRUE(mustUpdate()) << "the host's own rule knows of the change";
+    }
+}
+
+TEST_P(Update, MakesAMapForEachPool) {
+    PoolPtr const other = makePool("other");
+    ColormapPtr const first = update(*object_, pool_);
+    ColormapPtr const second = update(*object_, other);
+    ASSERT_TRUE(first);
+    ASSERT_TRUE(second);
+    EXPECT_NE(first.get(), second.get());
+    for (Setting const& setting : cycle().change)
+        set(*object_, setting.name, setting.text, other);
+    ColormapPtr const unchanged = update(*object_, pool_);
+    update(*object_, other);
+    forceUpdate(*object_, other);
+    EXPECT_EQ(unchanged.get(), first.get());
+    bool const differ = !(mapOf(*object_, other)->getColor(0.1) == first->getColor(0.1));
+    EXPECT_EQ(differ, !cycle().change.empty());
+}
+
+TEST_P(Update, WithoutAPoolUsesTheParametersOwnValues) {
+    EXPECT_TRUE(forceUpdate(*object_, nullptr));
+    EXPECT_TRUE(mapOf(*object_, nullptr));
+}
+
+std::string nameOf(testing::TestParamInfo<MapDescription> const& map) {
+    return testName(map.param.name);
+}
+
+INSTANTIATE_TEST_SUITE_P(Maps, Update, testing::ValuesIn(describedMaps()), nameOf);
+
+/// Maps that depend on a parameter.
+std::vector<MapDescription> changingMaps() {
+    std::vector<MapDescription> maps;
+    for (MapDescription const& map : describedMaps())
+        if (!map.cycle.change.empty())
+            maps.push_back(map);
+    return maps;
+}
+
+class ChangedUpdate : public Update {};
+
+TEST_P(ChangedUpdate, ReplacesOrRewritesTheMap) {
+    ColormapPtr const first = update(*object_, pool_);
+    rgba_float_t const before = first->getColor(0.1);
+    change();
+    update(*object_, pool_);
+    forceUpdate(*object_, pool_);  // an object with its own must_update asks for none here
+    EXPECT_EQ(output_->map().get() == first.get(), cycle().makes == Makes::WhenNone);
+    EXPECT_EQ(first->getColor(0.1) == before, cycle().makes != Makes::WhenNone)
+        << "a map that is replaced never changes";
+    EXPECT_FALSE(output_->map()->getColor(0.1) == before);
+}
+
+TEST_P(ChangedUpdate, KeepsTheMapWhenOnlyTheAgeOfTheParameterHasChangedUnlessItReplaces) {
+    ColormapPtr const first = update(*object_, pool_);
+    ParameterRow const& parameter = GetParam().parameters.front();
+    set(*object_, parameter.name, parameter.defaultText);
+    update(*object_, pool_);
+    EXPECT_EQ(output_->map().get() == first.get(), cycle().makes == Makes::WhenNone);
+}
+
+TEST_P(ChangedUpdate, ReplacesEvenAForeignMapIfItReplaces) {
+    update(*object_, pool_);
+    ColormapPtr const foreign = new ForeignMap;
+    output_->place(foreign);
+    change();
+    forceUpdate(*object_, pool_);
+    EXPECT_EQ(output_->map().get() == foreign.get(), cycle().makes == Makes::WhenNone);
+}
+
+INSTANTIATE_TEST_SUITE_P(Maps, ChangedUpdate, testing::ValuesIn(changingMaps()), nameOf);
+
+}  // namespace
+}  // namespace tests

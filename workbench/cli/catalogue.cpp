@@ -1,0 +1,97 @@
+/// `telmbench catalogue`: what the plug-in can make.
+#include "runtime/quartz/text.hpp"
+#include "workbench/cli/Output.hpp"
+#include "workbench/cli/Session.hpp"
+#include "workbench/cli/commands.hpp"
+#include "workbench/cli/json.hpp"
+#include "workbench/cli/table.hpp"
+
+namespace workbench {
+
+namespace {
+
+using Orlo::VCreatorBase;
+
+constexpr char Examples[] = R"(Examples:
+  telmbench catalogue
+      Lists what the plug-in beside the program can make.
+  telmbench --plugin ./other.telm catalogue --json
+      The same for another plug-in, for other programs to read.)";
+
+std::vector<std::string> preferenceWords(VCreatorBase const& entry) {
+    Orlo::PreferencesPtr const& preferences = entry.preferences();
+    if (!preferences)
+        return {};
+    return {preferences->words().begin(), preferences->words().end()};
+}
+
+std::string joined(std::vector<std::string> const& words) {
+    std::string text;
+    for (std::string const& word : words)
+        text += (text.empty() ? "" : ", ") + word;
+    return text;
+}
+
+Json entryAsJson(VCreatorBase const& entry) {
+    std::vector<std::string> tags;
+    for (std::string_view const tag : Orlo::splitWords(entry.get(VCreatorBase::Tags), ';'))
+        tags.emplace_back(tag);
+    return {{"key", entry.keyname("/")},
+            {"order", entry.orderNumber()},
+            {"preferences", preferenceWords(entry)},
+            {"description", entry.get(VCreatorBase::Description)},
+            {"tags", tags},
+            {"source", entry.get(VCreatorBase::Source)},
+            {"date", entry.get(VCreatorBase::Date)},
+            {"todo", entry.get(VCreatorBase::Todo)}};
+}
+
+/// The key, and below it what the entry says of itself.
+std::string entryAsText(VCreatorBase const& entry) {
+    std::vector<TableRow> rows{{"order", std::to_string(entry.orderNumber())}};
+    auto const add = [&](char const* label, std::string const& text) {
+        if (!text.empty())
+            rows.push_back({label, text});
+    };
+    add("preferences", joined(preferenceWords(entry)));
+    add("tags", entry.get(VCreatorBase::Tags));
+    add("source", entry.get(VCreatorBase::Source));
+    add("date", entry.get(VCreatorBase::Date));
+    add("to do", entry.get(VCreatorBase::Todo));
+    std::string const& description = entry.get(VCreatorBase::Description);
+    return entry.keyname("/") + "\n" + (description.empty() ? "" : "    " + description + "\n") +
+           table(rows, "    ") + "\n";
+}
+
+std::string asJson(Session const& session) {
+    Json entries = Json::array();
+    for (auto const& entry : session.entries())
+        entries.push_back(entryAsJson(*entry));
+    return jsonDocument(entries);
+}
+
+std::string asText(Session const& session) {
+    std::string text;
+    for (auto const& entry : session.entries())
+        text += entryAsText(*entry);
+    return text + std::to_string(session.entries().size()) + " entries\n";
+}
+
+void run(CommonOptions const& common, bool json) {
+    Output output(json);
+    Session const session(common);
+    output.write(json ? asJson(session) : asText(session));
+}
+
+}  // namespace
+
+void addCatalogue(CLI::App& program, CommonOptions const& common) {
+    CLI::App* const command = program.add_subcommand(
+        "catalogue", "List the entries of the plug-in, in the order of their registration");
+    auto const json = std::make_shared<bool>(false);
+    command->add_flag("--json", *json, "Write JSON");
+    command->footer(Examples);
+    command->callback([&common, json] { run(common, *json); });
+}
+
+}  // namespace workbench

@@ -1,0 +1,29 @@
+/// Numbers on the command line and in results, without locale.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace workbench {
+
+/// The number that the whole text means: decimal (`0.5`, `-2e-3`), hexadecimal
+/// (`0x1.8p-1`), `nan`, `inf`, `-inf`. Empty if it means none or one beyond the
+/// range of a double.
+std::optional<double> readNumber(std::string_view text);
+
+/// The shortest text that reads back to the same number; `nan` for any NaN.
+std::string shortest(double value);
+std::string shortest(float value);
+
+/// A picture's width and height in pixels.
+struct Size {
+    int width;
+    int height;
+};
+
+/// Reads "512x64". Throws `CallError` for other texts and for sizes outside 1
+/// to 16384.
+Size readSize(std::string const& text);
+
+}  // namespace workbench

@@ -1,0 +1,61 @@
+/// `telmbench ramp`: a whole map as a picture.
+#include "workbench/cli/MapObject.hpp"
+#include "workbench/cli/commands.hpp"
+#include "workbench/cli/numbers.hpp"
+#include "workbench/picture/png.hpp"
+
+namespace workbench {
+
+namespace {
+
+constexpr char Examples[] = R"(Examples:
+  telmbench ramp Hypsometric -o hypsometric.png
+      The map from its lower to its upper end, left to right.
+  telmbench ramp Hypsometric --set options=inverse --size 1024x100 -o turned.png
+      With a parameter set, in another size.
+
+Each column has the colour of its middle. The picture is opaque: the alpha of
+the colours is left out, as tables have none.)";
+
+struct Arguments {
+    std::string key;
+    std::vector<std::string> settings;
+    std::string size = "512x64";
+    std::string file;
+};
+
+Image drawRamp(Orlo::Colormap const& map, Size size) {
+    Image image(size.width, size.height);
+    double const least = map.getMin();
+    double const extent = map.getMax() - least;
+    for (int x = 0; x < size.width; ++x) {
+        double const value = least + extent * (x + 0.5) / size.width;
+        image.fill(x, 0, 1, size.height, opaque(map.getColor(value)));
+    }
+    return image;
+}
+
+void run(CommonOptions const& common, Arguments const& given) {
+    Size const size = readSize(given.size);
+    Session const session(common);
+    MapObject const subject(session, given.key, given.settings);
+    writePng(given.file, drawRamp(subject.map(), size));
+}
+
+}  // namespace
+
+void addRamp(CLI::App& program, CommonOptions const& common) {
+    CLI::App* const command = program.add_subcommand("ramp", "Draw a map as a PNG picture");
+    auto const given = std::make_shared<Arguments>();
+    command->add_option("KEY", given->key, "Full key, or name, of the entry")->required();
+    command->add_option("--set", given->settings, "Set a parameter, as NAME=TEXT")
+        ->allow_extra_args(false);
+    command->add_option("--size", given->size, "Width and height in pixels, 1 to 16384 each")
+        ->type_name("WxH")
+        ->capture_default_str();
+    command->add_option("-o", given->file, "The picture to write")->type_name("FILE")->required();
+    command->footer(Examples);
+    command->callback([&common, given] { run(common, *given); });
+}
+
+}  // namespace workbench
