@@ -78,20 +78,6 @@ std::size_t sizeUpTo(int most, int count, char const* refusal) {
     return size;
 }
 
-/// The grid of candidates, red varying slowest. The components are products with
-/// the rounded step, which make NaN of the one point of a grid of one step.
-std::vector<RgbTriple> rgbGrid(int steps) {
-    std::size_t const edge = sizeUpTo(MostSteps, steps, "'RGB Steps' is greater than 256");
-    double const h = 1.0 / (steps - 1);
-    std::vector<RgbTriple> grid;
-    grid.reserve(edge * edge * edge);
-    for (int i = 0; i < steps; ++i)
-        for (int j = 0; j < steps; ++j)
-            for (int k = 0; k < steps; ++k)
-                grid.push_back({i * h, j * h, k * h});
-    return grid;
-}
-
 RgbTriple widened(rgba_float_t const& color) {
     return {color.red(), color.green(), color.blue()};
 }
@@ -100,12 +86,13 @@ ColorRampDistinguish::Ramp::Ramp(int count, int steps, Enum illuminant, rgba_flo
                                  rgba_float_t background2)
     : NumberOfColors(count),
       Colors(sizeUpTo(MostColors, count, "'Number of Colors' is greater than 16777216")) {
-    std::vector<RgbTriple> const grid = rgbGrid(steps);
+    sizeUpTo(MostSteps, steps, "'RGB Steps' is greater than 256");
+    RgbGrid const grid(steps);
     std::vector<RgbTriple> const backgrounds{widened(background1), widened(background2)};
-    auto const picks = farthestPoints(rgbToLab(illuminant, static_cast<int>(grid.size()), grid),
-                                      rgbToLab(illuminant, 2, backgrounds), Colors.size());
+    auto const picks =
+        farthestPoints(illuminant, grid, rgbToLab(illuminant, 2, backgrounds), Colors.size());
     for (std::size_t n = 0; n < picks.size(); ++n) {
-        RgbTriple const& pick = grid[picks[n]];
+        RgbTriple const pick = grid[picks[n]];
         Colors[n] = {pick.red, pick.green, pick.blue, 1};
     }
 }

@@ -25,6 +25,24 @@ struct LabPoint {
 /// stay below 100,000.
 inline constexpr double NothingNear = 1000000000000000.0;
 
+/// Undoes the sRGB companding of one channel; in percent.
+double linearPercent(double channel);
+
+/// The way from linear RGB to Lab under one illuminant: D50 where that word is
+/// selected, and D65 otherwise.
+class LabConversion {
+public:
+    explicit LabConversion(Orlo::Enum const& illuminant);
+
+    /// The point of a colour with the given linear channels, in percent.
+    LabPoint operator()(double red, double green, double blue) const;
+
+    struct Constants;
+
+private:
+    Constants const& light_;
+};
+
 /// Converts the first `count` colours, in their order. The illuminant is D50
 /// where that word is selected, and D65 otherwise. Nothing is limited; a
 /// component that is NaN gives a point of NaNs.
