@@ -8,7 +8,7 @@ namespace workbench {
 
 void registerSceneTypes() {
     static bool const once =
-        Orlo::registerValueTypes<double, int, Boolean, Tessar::rgba_float_t, Orlo::Enum,
+        Orlo::registerValueTypes<double, int, bool, Tessar::rgba_float_t, Orlo::Enum,
                                  Orlo::FlagList, Orlo::Range, Orlo::VTime, Point, Box, Pair,
                                  Identifier, Nothing, std::string>();
     static_cast<void>(once);
@@ -53,7 +53,7 @@ std::string firstReader(std::string const& text) {
 
 std::string inferType(std::string const& text) {
     registerSceneTypes();
-    std::string const name = firstReader<Nothing, Boolean, double, Orlo::VTime, Orlo::Range,
+    std::string const name = firstReader<Nothing, bool, double, Orlo::VTime, Orlo::Range,
                                          Tessar::rgba_float_t, Point, Box, Pair, Identifier>(text);
     if (!name.empty())
         return name;
@@ -66,7 +66,6 @@ std::string inferType(std::string const& text) {
 
 namespace Orlo {
 
-using workbench::Boolean;
 using workbench::Box;
 using workbench::Identifier;
 using workbench::Nothing;
@@ -92,14 +91,14 @@ bool finish(TextReader const& reader, T const& read, T& value) {
 
 }  // namespace
 
-bool VValueTrait<Boolean>::setValueFromText(Boolean& value, std::string const& text) {
+bool VValueTrait<bool>::setValueFromText(bool& value, std::string const& text) {
     if (text != "true" && text != "false")
         return false;
-    value.value = text == "true";
+    value = text == "true";
     return true;
 }
-std::string VValueTrait<Boolean>::Text(Boolean const& value) {
-    return value.value ? "true" : "false";
+std::string VValueTrait<bool>::Text(bool const& value) {
+    return value ? "true" : "false";
 }
 
 bool VValueTrait<Point>::setValueFromText(Point& value, std::string const& text) {

@@ -7,14 +7,6 @@
 
 namespace workbench {
 
-/// True or false. A class, since values must be able to stand in arrays, and the
-/// library's arrays of `bool` are none.
-struct Boolean {
-    bool value = false;
-
-    bool operator==(Boolean const&) const = default;
-};
-
 /// A place or a direction in space; units are those of the data.
 struct Point {
     double x = 0.0;
@@ -67,9 +59,9 @@ namespace Orlo {
 
 /// `true`, `false`.
 template <>
-struct VValueTrait<workbench::Boolean> {
-    static bool setValueFromText(workbench::Boolean& value, std::string const& text);
-    static std::string Text(workbench::Boolean const& value);
+struct VValueTrait<bool> {
+    static bool setValueFromText(bool& value, std::string const& text);
+    static std::string Text(bool const& value);
 };
 
 /// `{0,2.4,1}`.
