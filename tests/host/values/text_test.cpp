@@ -135,7 +135,7 @@ TEST(TextOfEnum, IsRefusedForWordsThatTheValueDoesNotHave) {
         {"", "maybe", "No", "no ", " no", "no{no}", "no{yes}{no}", "no{no}{yes}{also}",
          "maybe{no}{yes}", "no{no}{yes", "no{no{yes}", "no}", "{no}yes", "no{no}{yes}x", "}{"},
         Sample<Enum>::words());
-    expectBad<Enum>({"no", "no{}", "{}", "a{a}{}"}, Enum());
+    expectBad<Enum>({"no", "no{}"}, Enum());
 }
 
 TEST(TextOfEnum, IsEmptyForAnEmptyOneAndLacksTheWordWhereNoneIsSelected) {
