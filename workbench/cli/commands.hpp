@@ -19,6 +19,7 @@ struct CommonOptions {
 
 void addCatalogue(CLI::App& program, CommonOptions const& common);
 void addDescribe(CLI::App& program, CommonOptions const& common);
+void addGallery(CLI::App& program, CommonOptions const& common);
 void addLookup(CLI::App& program, CommonOptions const& common);
 void addRamp(CLI::App& program, CommonOptions const& common);
 void addRun(CLI::App& program, CommonOptions const& common);

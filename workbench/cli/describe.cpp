@@ -4,7 +4,7 @@
 #include "workbench/cli/commands.hpp"
 #include "workbench/cli/json.hpp"
 #include "workbench/cli/table.hpp"
-#include "workbench/common/typeNames.hpp"
+#include "workbench/common/ParameterFacts.hpp"
 
 namespace workbench {
 
@@ -15,36 +15,6 @@ constexpr char Examples[] = R"(Examples:
       The parameters of the entry, with the texts that --set takes elsewhere.
   telmbench describe Colormaps/Hypsometric --json
       The same by its full key, for other programs to read.)";
-
-/// What there is to say about a parameter, as texts.
-struct ParameterFacts {
-    std::string name;
-    std::string type;
-    std::string standard;  ///< the text of its default value
-    int expertLevel;
-    std::string least;  ///< advice to the user; empty if there is none
-    std::string greatest;
-};
-
-std::string propertyText(Orlo::VParameter const& parameter, std::string const& name) {
-    Orlo::ValueMap const* const properties = parameter.properties();
-    Orlo::ValuePtr const value = properties != nullptr ? properties->getValue(name) : nullptr;
-    return value ? value->text() : std::string();
-}
-
-std::vector<ParameterFacts> parametersOf(Orlo::VObject const& object) {
-    std::vector<ParameterFacts> all;
-    for (Orlo::SlotPtr const& slot : object.slots()) {
-        if (!slot->isInput())
-            continue;
-        Orlo::VParameter const& parameter = *slot->ownParameter();
-        Orlo::ValuePtr const standard = parameter.DefaultValue();
-        all.push_back({slot->name(), standard ? typeName(standard->type()) : "",
-                       standard ? standard->text() : "", slot->expertLevel(),
-                       propertyText(parameter, "min"), propertyText(parameter, "max")});
-    }
-    return all;
-}
 
 std::vector<std::string> outputsOf(Orlo::VObject const& object) {
     std::vector<std::string> names;
