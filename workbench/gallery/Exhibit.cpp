@@ -14,7 +14,7 @@ bool isPlain(char letter) {
 std::string plain(std::string word) {
     for (char& letter : word)
         letter = isPlain(letter) ? letter : '-';
-    return word.substr(0, 100);  // a name of a file has an end
+    return word.empty() ? "map" : word.substr(0, 100);  // a name of a file has an end
 }
 
 std::string lower(std::string word) {
@@ -30,7 +30,7 @@ std::string nameIn(std::string const& key) {
 }
 
 std::vector<std::string> wordsFor(std::vector<Exhibit> const& exhibits) {
-    std::set<std::string> taken;
+    std::set<std::string> taken{"top"};  // the page's own anchor
     std::vector<std::string> words;
     for (Exhibit const& exhibit : exhibits) {
         std::string const stem = plain(nameIn(exhibit.key));
