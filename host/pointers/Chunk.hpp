@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <string>
+#include <type_traits>
 #include <typeinfo>
 #include <vector>
 
@@ -28,7 +29,8 @@ public:
     virtual std::size_t size() const = 0;
     /// Bytes of one element. [any]
     virtual std::size_t elementSize() const = 0;
-    /// Address of the first element; null may stand for an empty array. [any]
+    /// Address of the first element; null may stand for an empty array, and does
+    /// for one of `bool`. [any]
     virtual void* address() = 0;
     virtual void const* address() const = 0;
     /// Type of an element, and of the chunk. [any]
@@ -79,8 +81,8 @@ public:
 
     std::size_t size() const override { return std::vector<T>::size(); }
     std::size_t elementSize() const override { return sizeof(T); }
-    void* address() override { return std::vector<T>::data(); }
-    void const* address() const override { return std::vector<T>::data(); }
+    void* address() override { return addressOf(*this); }
+    void const* address() const override { return addressOf(*this); }
     std::type_info const& elementType() const override { return typeid(T); }
     std::type_info const& chunkType() const override { return typeid(Chunk); }
 
@@ -110,6 +112,15 @@ public:
     }
 
 private:
+    /// The standard vector of `bool` packs bits, which have no address.
+    template <class Self>
+    static auto* addressOf(Self& self) {
+        if constexpr (std::is_same_v<T, bool>)
+            return static_cast<bool*>(nullptr);
+        else
+            return self.data();
+    }
+
     std::size_t bytes_;  ///< what this chunk has added to `TotalMemsize`
 };
 

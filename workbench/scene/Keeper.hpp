@@ -7,8 +7,9 @@
 
 namespace workbench {
 
-/// Base of the host's own objects: each takes parameters that it does not know
-/// and keeps them, so that nothing that a script sets is lost.
+/// Base of the objects that the workbench itself provides: each takes parameters
+/// that it does not know and keeps them, so that nothing that a script sets is
+/// lost.
 ///
 /// Threads: as `VObject`.
 class SceneObject : public Orlo::VObject {
@@ -18,37 +19,52 @@ public:
     /// Adds an input that the object was not made with; empty if it takes none
     /// of that name, as here. [host]
     virtual Orlo::SlotPtr makeInput(std::string const& name);
-    /// There is nothing to compute. [updater]
+    /// Here there is nothing to compute. [updater]
     bool update(Orlo::VRequest& request, double precision) override;
-    /// Inputs made by `makeAnyInput` take every output.
+    /// As for every object, but an input made by `makeAnyInput` takes any
+    /// output. [host]
     bool allowParameterReplacement(Orlo::SlotPtr const& slot,
                                    Orlo::ParameterPtr const& replacement) const override;
 
 protected:
-    /// An input that takes every output; nobody reads it.
+    /// An input that takes any output; nobody reads it.
     Orlo::SlotPtr makeAnyInput(std::string const& name);
 };
 
-/// A host object whose behaviour no picture needs: it keeps its parameters and
-/// connections, and provides itself as the output "object".
-class Keeper : public SceneObject {
+/// Base of what the host brings along by itself: no creator makes these, and
+/// they take inputs of any name. Names of their outputs begin with two colons,
+/// so that scripts can use all others for parameters.
+class HostObject : public SceneObject {
 public:
-    Keeper(std::string const& name, int kind = 0, Orlo::PreferencesPtr const& preferences = {});
+    explicit HostObject(std::string const& name);
 
-    Orlo::SlotPtr makeInput(std::string const& name) override { return makeAnyInput(name); }
+    Orlo::SlotPtr makeInput(std::string const& name) override;
+
+protected:
+    /// An output "::object" that says no more than that the object is there.
+    void makePresence();
+};
+
+/// A host object whose behaviour no picture needs: it keeps its parameters and
+/// connections, and provides its presence.
+class Keeper : public HostObject {
+public:
+    explicit Keeper(std::string const& name);
 };
 
 /// Whether the object takes parameters that it does not know. [any]
 bool keepsAll(Orlo::VObject const& object);
 
-/// Adds a parameter whose type is that of the text's form; from then on the
-/// parameter takes texts of this form only. A parameter of that name that is
-/// there already stays as it is and is given back. Empty if the object keeps
-/// no unknown parameters. [host]
+/// Adds a parameter whose type is that of the text's form, with the text's
+/// value; from then on the parameter takes texts of this form only. An input of
+/// that name that is there already stays as it is and is given back. Empty if
+/// the object keeps no unknown parameters, or has an output of that name.
+/// [host]
 Orlo::SlotPtr addKept(Orlo::VObject& object, std::string const& name, std::string const& text);
 
 /// The input of that name, made now if the object takes one: `X.renderable` of
-/// a scene, any name of a keeper. Empty if it takes none of that name. [host]
+/// a scene, any name of a host object. Empty if it takes none of that name.
+/// [host]
 Orlo::SlotPtr addInput(Orlo::VObject& object, std::string const& name);
 
 }  // namespace workbench

@@ -18,8 +18,8 @@ namespace workbench {
 ///
 /// | object        | recognised by                          | parameters and inputs      |
 /// |---------------|----------------------------------------|----------------------------|
-/// | camera        | kind "CameraControl", name "Camera"    | see `Camera.hpp`           |
-/// | viewer        | name "Viewer" and digits               | "size", "background";      |
+/// | camera        | kind "CameraControl", name "Camera"    | see `View.hpp`             |
+/// | viewer        | name "Viewer" and digits               | "size", "backgroundcolor"; |
 /// |               |                                        | "camera", "scene"          |
 /// | scene         | name that ends with "Scene"            | "<member>.renderable"      |
 /// | chart selector| name "ChartSelector"                   | "::atlas"                  |

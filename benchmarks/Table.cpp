@@ -1,0 +1,37 @@
+#include "benchmarks/Table.hpp"
+
+#include <cstdio>
+
+namespace benchmarks {
+
+void Table::ReportRuns(std::vector<Run> const& runs) {
+    for (Run const& run : runs) {
+        if (run.error_occurred)
+            std::fprintf(stderr, "%s: %s\n", run.benchmark_name().c_str(),
+                         run.error_message.c_str());
+        auto const rate = run.counters.find("items_per_second");
+        if (run.aggregate_name == "median" && rate != run.counters.end())
+            medians_[run.run_name.function_name] = 1e9 / rate->second;
+    }
+}
+
+void Table::print(std::vector<Group> const& groups) const {
+    for (Group const& group : groups) {
+        std::printf("\n### %s\n\n| what | ns |", group.title.c_str());
+        for (std::string const& title : group.floorTitles)
+            std::printf(" %s, ns | ratio |", title.c_str());
+        std::printf("\n| --- | ---: |");
+        for (std::size_t i = 0; i < group.floorTitles.size(); ++i)
+            std::printf(" ---: | ---: |");
+        std::printf("\n");
+        for (Row const& row : group.rows) {
+            double const measured = medians_.at(row.measured);
+            std::printf("| %s | %.4g |", row.what.c_str(), measured);
+            for (std::string const& floor : row.floors)
+                std::printf(" %.4g | %.2f |", medians_.at(floor), measured / medians_.at(floor));
+            std::printf("\n");
+        }
+    }
+}
+
+}  // namespace benchmarks

@@ -1,0 +1,19 @@
+/// The groups of benchmarks; each registers its own and says how to report them.
+#pragma once
+
+#include <filesystem>
+
+#include "benchmarks/Table.hpp"
+
+namespace benchmarks {
+
+/// These two need the plug-in loaded while they are registered and run.
+Group lookups();
+std::vector<Group> updates();
+
+Group pointers();
+
+/// Loads and unloads the plug-in file itself; nobody else may hold it.
+Group loading(std::filesystem::path const& plugin);
+
+}  // namespace benchmarks

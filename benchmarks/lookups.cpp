@@ -1,0 +1,77 @@
+/// `getColor` of every map through the base pointer.
+#include <cstdint>
+#include <memory>
+
+#include "benchmarks/floors.hpp"
+#include "benchmarks/groups.hpp"
+#include "benchmarks/objects.hpp"
+
+namespace benchmarks {
+
+namespace {
+
+constexpr std::size_t Count = 4096;
+
+/// Scalars from 0 to 1 in no order, the same in every run.
+std::vector<double> const& scalars() {
+    static std::vector<double> const values = [] {
+        std::vector<double> made(Count);
+        std::uint64_t state = 1;
+        for (double& value : made) {
+            state = state * 6364136223846793005U + 1442695040888963407U;
+            value = static_cast<double>(state >> 11) / 9007199254740992.0;
+        }
+        return made;
+    }();
+    return values;
+}
+
+/// Registers a benchmark that looks all scalars up by a function object.
+///
+/// The colours are added up, not stored: to store one, the compiler puts the two
+/// halves of a returned colour together through the stack and waits 5 ns for it,
+/// three times what the call takes.
+template <class LookUp>
+std::string add(std::string const& name, LookUp lookUp) {
+    benchmark::RegisterBenchmark(name.c_str(), [lookUp](benchmark::State& state) {
+        std::vector<double> const& values = scalars();
+        for ([[maybe_unused]] auto _ : state) {
+            float total = 0;
+            for (double const value : values) {
+                Tessar::rgba_float_t const color = lookUp(value);
+                total += (color[0] + color[1]) + (color[2] + color[3]);
+            }
+            benchmark::DoNotOptimize(total);
+        }
+        state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(Count));
+    });
+    return name;
+}
+
+/// A table with the map's own colours.
+Colors tableOf(Orlo::Colormap const& map) {
+    Colors table;
+    for (int i = 0; i < map.getSize(); ++i)
+        table.push_back(map.getColor(static_cast<double>(i) / map.getSize()));
+    return table;
+}
+
+}  // namespace
+
+Group lookups() {
+    Group group{"One lookup, random scalars", {"inlined table lookup", "virtual table lookup"}, {}};
+    for (std::string const& key : keys()) {
+        Orlo::ColormapPtr const map = update(*create(key), makePool());
+        auto const table = std::make_shared<Colors const>(tableOf(*map));
+        std::shared_ptr<Lookup const> const called = makeTableLookup(*table);
+        group.rows.push_back(
+            {"`" + key + "`",
+             add("getColor " + key, [&m = *map, map](double value) { return m.getColor(value); }),
+             {add("inlined " + key, [&t = *table, table](double value) { return row(t, value); }),
+              add("virtual " + key,
+                  [&c = *called, called](double value) { return c.getColor(value); })}});
+    }
+    return group;
+}
+
+}  // namespace benchmarks

@@ -1,0 +1,304 @@
+#include "workbench/network/Network.hpp"
+
+#include <algorithm>
+#include <array>
+#include <ranges>
+
+#include "runtime/lattice/Catalogue.hpp"
+#include "runtime/lattice/TypeRegistry.hpp"
+#include "workbench/common/errors.hpp"
+#include "workbench/common/inQuotes.hpp"
+#include "workbench/common/nearest.hpp"
+#include "workbench/common/parameters.hpp"
+#include "workbench/network/connect.hpp"
+#include "workbench/network/editScript.hpp"
+#include "workbench/scene/Keeper.hpp"
+#include "workbench/scene/hostObjects.hpp"
+#include "workbench/scene/render.hpp"
+#include "workbench/scene/values.hpp"
+
+namespace workbench {
+
+namespace {
+
+using std::string;
+
+/// The types of properties: as scripts and as the host's type registry call
+/// them.
+struct PropertyType {
+    char const* name;
+    char const* registered;
+};
+
+constexpr std::array PropertyTypes{PropertyType{"double", "double"}, PropertyType{"int32_t", "int"},
+                                   PropertyType{"bool", "bool"}};
+
+Orlo::ValuePtr propertyValue(PropertyLine const& line) {
+    auto const type = std::ranges::find_if(
+        PropertyTypes, [&](PropertyType const& each) { return line.type == each.name; });
+    if (type == PropertyTypes.end())
+        throw CallError("there is no property type " + inQuotes(line.type) +
+                        "; there are 'double', 'int32_t' and 'bool'");
+    registerSceneTypes();
+    bool ok = false;
+    Orlo::ValuePtr value = Orlo::findValueCreator(type->registered)->create(line.value, ok);
+    if (!ok)
+        throw CallError(inQuotes(line.value) + " is no " + line.type);
+    return value;
+}
+
+bool isNumber(string const& text) {
+    double number = 0.0;
+    return Orlo::VValueTrait<double>::setValueFromText(number, text);
+}
+
+/// Throws `CallError` unless the text is one of the attribute's form; an
+/// attribute that is not known takes any text.
+void checkAttribute(string const& name, string const& text) {
+    if (name == "qTelm::Net::status") {
+        Orlo::Enum status;
+        status.addCase("visible").addCase("icon").addCase("hidden");
+        if (!Orlo::VValueTrait<Orlo::Enum>::setValueFromText(status, text))
+            throw CallError(inQuotes(text) + " is no status; it is one of 'visible', 'icon' and " +
+                            "'hidden', as visible{visible}{icon}{hidden}");
+    } else if (name == "qTelm::Net::ExpertLevel" || name == "qTelm::Net::x" ||
+               name == "qTelm::Net::y") {
+        if (!isNumber(text))
+            throw CallError(inQuotes(text) + " is no number, which " + name + " must be");
+    }
+}
+
+std::vector<string> catalogueKeys() {
+    std::vector<string> keys;
+    for (Orlo::WeakCreatorPtr const& creator : Orlo::catalogue())
+        keys.push_back(creator->keyname("/"));
+    return keys;
+}
+
+Orlo::SlotPtr findParameter(Orlo::VObject const& object, string const& name) {
+    Orlo::SlotPtr const slot = object.slot(name);
+    if (!slot)
+        throw CallError(inQuotes(object.Name()) + " has no parameter " + inQuotes(name) +
+                        suggestion(name, parameterNames(object)));
+    return slot;
+}
+
+/// Throws `CallError` if the text cannot stand in a line of a script.
+void checkWritable(ValuePlace const& place, string const& text) {
+    ParameterLine const line{place.object, place.name, place.context, text};
+    if (std::holds_alternative<UnreadableLine>(meaningOf(*textOf(line))))
+        throw CallError("the text " + inQuotes(text) +
+                        " cannot stand in a saved network; it must be one line of at most " +
+                        std::to_string(Script::LongestLine) + " bytes");
+}
+
+/// The value that stands in the pool itself, or without a pool the own one.
+Orlo::ValuePtr valueAt(Orlo::VParameter const& parameter, Orlo::PoolPtr const& pool) {
+    return pool ? parameter.getLocalValue(pool, "", false) : parameter.ownValue();
+}
+
+}  // namespace
+
+// --- what there is
+
+Orlo::ObjectPtr Network::object(string const& name) const {
+    if (Orlo::ObjectPtr const present = findObject(name))
+        return present;
+    if (missing_.contains(name))
+        throw CallError("the object " + inQuotes(name) + " could not be created");
+    throw CallError("there is no object " + inQuotes(name) + suggestion(name, names()));
+}
+
+Orlo::ObjectPtr Network::findObject(string const& name) const {
+    auto const found = objects_.find(name);
+    return found != objects_.end() ? found->second : Orlo::ObjectPtr();
+}
+
+std::vector<string> Network::names() const {
+    auto const keys = std::views::keys(objects_);
+    return {keys.begin(), keys.end()};
+}
+
+std::vector<string> Network::viewers() const {
+    std::vector<string> names;
+    for (auto const& [name, object] : objects_)
+        if (object && isViewer(*object))
+            names.push_back(name);
+    return names;
+}
+
+Orlo::PoolPtr Network::pool(string const& context) {
+    Orlo::PoolPtr& pool = pools_[context];
+    if (!pool)
+        pool = new Orlo::ValuePool(context);
+    return pool;
+}
+
+string Network::attribute(string const& object, string const& name) const {
+    auto const attributes = attributes_.find(object);
+    if (attributes == attributes_.end())
+        return {};
+    auto const found = attributes->second.find(name);
+    return found != attributes->second.end() ? found->second : string();
+}
+
+// --- carrying out
+
+void Network::carryOut(Script const& script) {
+    script_ = script;
+    complaints_.clear();
+    missing_.clear();
+    for (Line const& line : script_.lines)
+        carryOut(line);
+    if (script_.endsOpen)
+        complaints_.push_back({script_.lines.back().number, "",
+                               "the last line has no line feed; is the file cut off?", false});
+    reportMissing();
+}
+
+void Network::carryOut(Line const& line) {
+    if (needsMissing(line.meaning))
+        return;
+    try {
+        std::visit([this](auto const& meaning) { apply(meaning); }, line.meaning);
+    } catch (std::exception const& error) {
+        complaints_.push_back({line.number, line.text, error.what()});
+        if (auto const* const creation = std::get_if<CreationLine>(&line.meaning))
+            if (!objects_.contains(creation->object))
+                missing_.insert_or_assign(creation->object, Missing{line.number, 0});
+    }
+}
+
+bool Network::needsMissing(Meaning const& meaning) {
+    if (missing_.empty() || std::holds_alternative<CreationLine>(meaning) ||
+        std::holds_alternative<ExpectedLine>(meaning) ||
+        std::holds_alternative<DeletionLine>(meaning))
+        return false;
+    auto found = missing_.find(objectOf(meaning));
+    if (auto const* const connection = std::get_if<ConnectionLine>(&meaning))
+        if (found == missing_.end())
+            found = missing_.find(connection->provider);
+    if (found == missing_.end())
+        return false;
+    ++found->second.concerned;
+    return true;
+}
+
+/// Says behind each complaint of an object that could not be made what else it
+/// stopped.
+void Network::reportMissing() {
+    for (auto const& [name, missing] : missing_)
+        if (missing.concerned > 0)
+            complaints_.push_back({missing.line, "",
+                                   std::to_string(missing.concerned) + " further line" +
+                                       (missing.concerned == 1 ? " concerns " : "s concern ") +
+                                       inQuotes(name) + ", which could not be created"});
+    std::ranges::stable_sort(complaints_, {}, &Complaint::line);
+}
+
+void Network::apply(ExpectedLine const& line) {
+    if (!objects_.contains(line.object))
+        objects_[line.object] = makeHostObject(line.key, line.object, *this);
+}
+
+void Network::apply(DeletionLine const& line) {
+    objects_.erase(line.object);
+    attributes_.erase(line.object);
+    missing_.erase(line.object);
+}
+
+void Network::apply(CreationLine const& line) {
+    if (objects_.contains(line.object))
+        throw CallError("there is an object " + inQuotes(line.object) + " already; '<>" +
+                        line.object + "' before this line deletes it");
+    Orlo::WeakCreatorPtr const creator = Orlo::findCreator(line.key);
+    if (!creator)
+        throw CallError(
+            "the catalogue has no entry " + inQuotes(line.key) +
+            suggestion(line.key, catalogueKeys(), "; a plug-in that provides it must be loaded"));
+    objects_[line.object] = creator->create(line.object, *this, nullptr);
+    missing_.erase(line.object);
+}
+
+void Network::apply(ParameterLine const& line) {
+    Orlo::ObjectPtr const subject = object(line.object);
+    if (!subject->slot(line.name))
+        addKept(*subject, line.name, line.value);
+    setParameter(*subject, line.name, line.value,
+                 line.context.empty() ? Orlo::PoolPtr() : pool(line.context));
+}
+
+void Network::apply(PropertyLine const& line) {
+    Orlo::SlotPtr const slot = findParameter(*object(line.object), line.parameter);
+    slot->ownParameter()->setProperty(line.name, propertyValue(line), nullptr, nullptr, nullptr);
+}
+
+void Network::apply(NoteLine const& line) {
+    static_cast<void>(object(line.object));
+}
+
+void Network::apply(AttributeLine const& line) {
+    static_cast<void>(object(line.object));
+    checkAttribute(line.name, line.value);
+    attributes_[line.object][line.name] = line.value;
+}
+
+void Network::apply(ConnectionLine const& line) {
+    Orlo::ObjectPtr const provider = object(line.provider);
+    connect(*object(line.object), line.input, *provider, line.parameter);
+}
+
+void Network::apply(SetupLine const& line) {
+    Orlo::ObjectPtr const subject = object(line.object);
+    subject->setup(subject->slots());
+}
+
+void Network::apply(UnreadableLine const& line) {
+    throw CallError(line.reason);
+}
+
+// --- changes
+
+void Network::set(string const& text, string const& value) {
+    auto const place = placeOf(text);
+    if (!place)
+        throw CallError(inQuotes(text) + " is no place of a value; it must have the form " +
+                        "OBJECT.NAME or OBJECT.NAME{CONTEXT}");
+    checkWritable(*place, value);
+    if (isAttribute(place->name) && place->context.empty())
+        setAttribute(*place, value);
+    else
+        setValue(*place, value);
+}
+
+void Network::setAttribute(ValuePlace const& place, string const& text) {
+    static_cast<void>(object(place.object));
+    checkAttribute(place.name, text);
+    attributes_[place.object][place.name] = text;
+    writeValue(script_, place, text, {});
+}
+
+void Network::setValue(ValuePlace const& place, string const& text) {
+    Orlo::ObjectPtr const subject = object(place.object);
+    Orlo::PoolPtr const context = knownPool(place.context);
+    Orlo::SlotPtr const slot = findParameter(*subject, place.name);
+    Orlo::ValuePtr const present = valueAt(*slot->ownParameter(), context);
+    Orlo::ValuePtr const before = present ? present->copy() : nullptr;
+    setParameter(*subject, place.name, text, context);
+    Orlo::ValuePtr const after = valueAt(*slot->ownParameter(), context);
+    if (!before || after->differs(before))
+        writeValue(script_, place, after->text(), parameterNames(*subject));
+}
+
+/// The pool of a context that the network knows: a viewer's, or one that a line
+/// names. Empty for the empty name.
+Orlo::PoolPtr Network::knownPool(string const& context) {
+    if (context.empty())
+        return nullptr;
+    std::vector<string> known = viewers();
+    if (!pools_.contains(context) && std::ranges::find(known, context) == known.end())
+        throw CallError("there is no context " + inQuotes(context) + suggestion(context, known));
+    return pool(context);
+}
+
+}  // namespace workbench

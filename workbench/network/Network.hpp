@@ -1,0 +1,97 @@
+/// A network of objects, made from a saved one.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "host/object/VObject.hpp"
+#include "workbench/network/Script.hpp"
+#include "workbench/network/report.hpp"
+
+namespace workbench {
+
+/// The objects of a saved network, and the text that it came from.
+///
+/// Owner: holds its objects and the value pools of its contexts; it must go
+/// before the plug-ins that made the objects do. Threads: [host].
+class Network : public Nucleo::Intercube {
+public:
+    Network() = default;
+    Network(Network const&) = delete;
+    Network& operator=(Network const&) = delete;
+    ~Network() override = default;
+
+    /// Carries a script out, line by line. A line that cannot be carried out is
+    /// complained of and passed by; what depends on an object that could not be
+    /// made is only counted. The script becomes the one that `save` writes.
+    void carryOut(Script const& script);
+
+    /// What could not be carried out, in the order of the lines.
+    std::vector<Complaint> const& complaints() const noexcept { return complaints_; }
+
+    /// The object of that name. Throws `CallError` with the nearest names if
+    /// there is none.
+    Orlo::ObjectPtr object(std::string const& name) const;
+    /// The object of that name, or empty.
+    Orlo::ObjectPtr findObject(std::string const& name) const;
+    /// The names of all objects, in alphabetical order.
+    std::vector<std::string> names() const;
+    /// The names of all viewers, in alphabetical order.
+    std::vector<std::string> viewers() const;
+    /// The value pool of a context, made when it is asked for first.
+    Orlo::PoolPtr pool(std::string const& context);
+    /// An attribute of the network editor, such as `qTelm::Net::x`; empty if it
+    /// was never set.
+    std::string attribute(std::string const& object, std::string const& name) const;
+
+    /// Changes the value at a place such as `Camera.zoom`, `Camera.zoom{Viewer1}`
+    /// or `Camera.qTelm::Net::x`, and the lines that say so. Throws `CallError`
+    /// for an unknown place (with the nearest names) and for a text that does
+    /// not parse; nothing has changed then.
+    void set(std::string const& place, std::string const& text);
+
+    /// The network as it now stands, as the text of a script.
+    std::string save() const { return script_.write(); }
+
+private:
+    /// An object that could not be made.
+    struct Missing {
+        std::size_t line;       ///< where it should have been made
+        std::size_t concerned;  ///< further lines that need it
+    };
+
+    void carryOut(Line const& line);
+    /// Whether the line needs an object that could not be made; counts it then.
+    bool needsMissing(Meaning const& meaning);
+    void reportMissing();
+
+    // One for each form of line; they throw what stands in their way.
+    void apply(ExpectedLine const& line);
+    void apply(DeletionLine const& line);
+    void apply(CreationLine const& line);
+    void apply(ParameterLine const& line);
+    void apply(PropertyLine const& line);
+    void apply(NoteLine const& line);
+    void apply(AttributeLine const& line);
+    void apply(ConnectionLine const& line);
+    void apply(SetupLine const& line);
+    void apply(UnreadableLine const& line);
+    void apply(BlankLine const&) {}
+    void apply(CommentLine const&) {}
+    void apply(BannerLine const&) {}
+    void apply(AnnouncementLine const&) {}
+
+    void setAttribute(ValuePlace const& place, std::string const& text);
+    void setValue(ValuePlace const& place, std::string const& text);
+    Orlo::PoolPtr knownPool(std::string const& context);
+
+    Script script_;
+    std::map<std::string, Orlo::PoolPtr> pools_;
+    std::map<std::string, Orlo::ObjectPtr> objects_;
+    std::map<std::string, std::map<std::string, std::string>> attributes_;
+    std::map<std::string, Missing> missing_;
+    std::vector<Complaint> complaints_;
+};
+
+}  // namespace workbench

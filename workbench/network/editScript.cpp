@@ -1,0 +1,119 @@
+#include "workbench/network/editScript.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace workbench {
+
+namespace {
+
+constexpr std::array<char const*, 4> AttributeOrder{"qTelm::Net::ExpertLevel", "qTelm::Net::status",
+                                                    "qTelm::Net::x", "qTelm::Net::y"};
+
+Meaning meaningFor(ValuePlace const& place, std::string const& value) {
+    if (isAttribute(place.name) && place.context.empty())
+        return AttributeLine{place.object, place.name, value};
+    return ParameterLine{place.object, place.name, place.context, value};
+}
+
+/// The value that a line gives to the place; null if it is about another.
+std::string* valueAt(Line& line, ValuePlace const& place) {
+    if (auto* const parameter = std::get_if<ParameterLine>(&line.meaning))
+        if (parameter->object == place.object && parameter->name == place.name &&
+            parameter->context == place.context)
+            return &parameter->value;
+    if (auto* const attribute = std::get_if<AttributeLine>(&line.meaning))
+        if (attribute->object == place.object && attribute->name == place.name &&
+            place.context.empty())
+            return &attribute->value;
+    return nullptr;
+}
+
+template <class Words>
+std::size_t rank(Words const& words, std::string const& word) {
+    return static_cast<std::size_t>(std::ranges::find(words, word) - std::ranges::begin(words));
+}
+
+/// Whether the line that makes or expects the object.
+bool begins(Line const& line, std::string const& object) {
+    return objectOf(line.meaning) == object &&
+           (std::holds_alternative<CreationLine>(line.meaning) ||
+            std::holds_alternative<ExpectedLine>(line.meaning));
+}
+
+/// Tells which lines of an object a new value stands behind.
+class Order {
+public:
+    Order(ValuePlace const& place, std::vector<std::string> const& parameters)
+        : place_(place), parameters_(parameters) {}
+
+    bool precedes(ParameterLine const& line) const {
+        return line.name == place_.name ? !line.context.empty() : isEarlier(line.name);
+    }
+    bool precedes(PropertyLine const& line) const { return isEarlier(line.parameter); }
+    bool precedes(NoteLine const& line) const { return isEarlier(line.parameter); }
+    bool precedes(AttributeLine const& line) const {
+        return isAttribute(place_.name) &&
+               rank(AttributeOrder, line.name) < rank(AttributeOrder, place_.name);
+    }
+    bool precedes(auto const&) const { return false; }
+
+private:
+    bool isEarlier(std::string const& name) const {
+        return isAttribute(place_.name) || rank(parameters_, name) < rank(parameters_, place_.name);
+    }
+
+    ValuePlace const& place_;
+    std::vector<std::string> const& parameters_;
+};
+
+/// Where the new line belongs, behind the object's beginning at `start`.
+/// Parameters that stand behind the attributes do not count.
+std::size_t placeFor(Script const& script, std::size_t start, std::string const& object,
+                     Order const& order) {
+    std::size_t behind = start + 1;
+    bool attributesSeen = false;
+    for (std::size_t i = start + 1; i < script.lines.size(); ++i) {
+        Meaning const& meaning = script.lines[i].meaning;
+        if (objectOf(meaning) != object)
+            continue;
+        bool const isAttributeLine = std::holds_alternative<AttributeLine>(meaning);
+        attributesSeen = attributesSeen || isAttributeLine;
+        bool const counts = isAttributeLine || !attributesSeen;
+        if (counts && std::visit([&](auto const& line) { return order.precedes(line); }, meaning))
+            behind = i + 1;
+    }
+    return behind;
+}
+
+void insertLine(Script& script, std::size_t at, Meaning const& meaning) {
+    std::string const end = script.lines.front().end.empty() ? "\n" : script.lines.front().end;
+    Line& before = script.lines[at - 1];
+    if (before.end.empty())
+        before.end = end;
+    script.lines.insert(script.lines.begin() + static_cast<std::ptrdiff_t>(at),
+                        Line{0, *textOf(meaning), end, meaning});
+}
+
+}  // namespace
+
+void writeValue(Script& script, ValuePlace const& place, std::string const& value,
+                std::vector<std::string> const& parameterOrder) {
+    auto& lines = script.lines;
+    auto const present = std::find_if(lines.rbegin(), lines.rend(),
+                                      [&](Line& line) { return valueAt(line, place) != nullptr; });
+    if (present != lines.rend()) {
+        *valueAt(*present, place) = value;
+        present->text = *textOf(present->meaning);
+        return;
+    }
+    auto const begin = std::find_if(lines.rbegin(), lines.rend(),
+                                    [&](Line const& line) { return begins(line, place.object); });
+    if (begin == lines.rend())
+        return;
+    auto const start = static_cast<std::size_t>(lines.rend() - begin) - 1;
+    insertLine(script, placeFor(script, start, place.object, Order(place, parameterOrder)),
+               meaningFor(place, value));
+}
+
+}  // namespace workbench

@@ -1,0 +1,18 @@
+#include "workbench/scene/SceneCreators.hpp"
+
+#include <array>
+
+#include "workbench/scene/kinds.hpp"
+
+namespace workbench {
+
+struct SceneCreators::Entries {
+    std::array<Entry, 8> all{radialScalarFieldEntry(), gridEntry(),        scalarfieldEntry(),
+                             orthoSliceEntry(),        colorLegendEntry(), showRangeEntry(),
+                             globalTimeEntry(),        range100Entry()};
+};
+
+SceneCreators::SceneCreators() : entries_(std::make_unique<Entries>()) {}
+SceneCreators::~SceneCreators() = default;
+
+}  // namespace workbench

@@ -1,0 +1,50 @@
+/// A plane through a field, coloured by a map.
+#pragma once
+
+#include "host/colormap/Colormap.hpp"
+#include "host/values/Range.hpp"
+#include "workbench/scene/Renderable.hpp"
+#include "workbench/scene/ScalarField.hpp"
+
+namespace workbench {
+
+/// Between its samples a slice shows the nearest one, or the colour of the
+/// scalar in between, or the colour in between.
+enum class SliceMode { Discrete, Interpolated, Smooth };
+
+/// How a slice shows a field.
+struct SliceOptions {
+    SliceMode mode = SliceMode::Interpolated;
+    int normal = 1;         ///< the axis across the plane: 0 x, 1 y, 2 z
+    double position = 0.0;  ///< of the plane on that axis, kept inside the grid
+    Orlo::Range datarange;  ///< what the map's first and last colour stand for
+    int precision = 255;    ///< steps of a texture's scalar between 0 and 1
+    double opacity = 1.0;   ///< 0 to 1
+};
+
+/// The samples of a field in a plane, as a texture: mapped through the data
+/// range to 0..1, limited to that, and rounded to the texture's precision. A
+/// sample that is no number counts as 0, as does every sample if the data range
+/// is empty.
+class Slice : public Renderable {
+public:
+    Slice(ScalarField const& field, Orlo::ColormapPtr const& map, SliceOptions const& options);
+
+    std::optional<Fragment> meet(Ray const& ray) const override;
+
+private:
+    void sampleField(ScalarField const& field);
+    double texel(double sample) const;
+    Tessar::rgba_float_t colourOf(double scalar) const;
+    Tessar::rgba_float_t colourAt(double across, double along) const;
+    std::size_t index(int across, int along) const;
+
+    Orlo::ColormapPtr map_;
+    SliceOptions options_;
+    UniformGrid grid_;
+    double plane_;                               ///< coordinate of the plane
+    std::vector<double> scalars_;                ///< row by row along the second axis
+    std::vector<Tessar::rgba_float_t> colours_;  ///< of the scalars, with the mode Smooth
+};
+
+}  // namespace workbench

@@ -1,0 +1,56 @@
+#include "workbench/scene/layout.hpp"
+
+#include <charconv>
+#include <cmath>
+
+namespace workbench {
+
+namespace {
+
+/// A fraction of a length in whole pixels; what is no number counts as 0, and
+/// all is kept far inside the range of an integer.
+int pixels(double fraction, int length) {
+    constexpr double Most = 1 << 20;
+    double const exact = std::floor(fraction * length + 0.5);
+    return static_cast<int>(exact >= Most    ? Most
+                            : exact <= -Most ? -Most
+                            : exact == exact ? exact
+                                             : 0);
+}
+
+}  // namespace
+
+PixelRect placed(Pair const& position, double width, double height, Image const& image) {
+    PixelRect rect;
+    rect.left = pixels(position.first, image.width());
+    rect.width = pixels(width, image.width());
+    rect.height = pixels(height, image.height());
+    rect.top = image.height() - pixels(position.second, image.height()) - rect.height;
+    return rect;
+}
+
+int textScale(Image const& image) {
+    constexpr int HeightForEachDot = 320;
+    return std::max(1, image.height() / HeightForEachDot);
+}
+
+std::string labelText(double value) {
+    char digits[32];
+    auto const [end, error] =
+        std::to_chars(digits, digits + sizeof digits, value + 0.0, std::chars_format::general, 6);
+    return error == std::errc() ? std::string(digits, end) : std::string();
+}
+
+double markValue(double first, double last, int i, int parts) {
+    return (first * (parts - i) + last * i) / parts;
+}
+
+void drawFrame(Image& image, PixelRect const& inner, int thickness, Rgba8 colour) {
+    int const width = inner.width + 2 * thickness;
+    image.fill(inner.left - thickness, inner.top - thickness, width, thickness, colour);
+    image.fill(inner.left - thickness, inner.bottom(), width, thickness, colour);
+    image.fill(inner.left - thickness, inner.top, thickness, inner.height, colour);
+    image.fill(inner.right(), inner.top, thickness, inner.height, colour);
+}
+
+}  // namespace workbench
