@@ -5,6 +5,8 @@
 #include <mutex>
 #include <typeindex>
 
+#include "host/values/Vprintf.hpp"
+
 namespace Orlo {
 
 namespace {
@@ -96,6 +98,7 @@ VCreatorBase::VCreatorBase(std::string const& name, int order, PreferencesPtr co
     : VCreatorBase(VCreatorProperties(NameIs(name)), order, preferences, hidden, token) {}
 
 VCreatorBase::~VCreatorBase() {
+    Vprintf(100, "VCreatorBase::~VCreatorBase(%s,%d)\n", keyname("/").c_str(), order_);
     std::scoped_lock const lock(registry().mutex);
     std::erase_if(registry().creators,
                   [this](auto const& each) { return each.controlBlock() == controlBlock(); });

@@ -19,6 +19,13 @@ Orlo::VInitialization hostFor(CommonOptions const& options) {
                           : Orlo::VInitialization();
 }
 
+/// The entries that were registered behind the first ones.
+std::vector<Orlo::WeakCreatorPtr> entriesFrom(std::size_t first) {
+    std::vector<Orlo::WeakCreatorPtr> all = Orlo::catalogue();
+    all.erase(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(first));
+    return all;
+}
+
 std::string withoutFolder(std::string const& key) {
     return key.substr(key.rfind('/') + 1);
 }
@@ -27,8 +34,9 @@ std::string withoutFolder(std::string const& key) {
 
 Session::Session(CommonOptions const& options)
     : host_(hostFor(options)),
+      before_(Orlo::catalogue().size()),
       plugin_(options.plugin.empty() ? pluginBesideProgram() : options.plugin, host_),
-      entries_(Orlo::catalogue()) {}
+      entries_(entriesFrom(before_)) {}
 
 Orlo::WeakCreatorPtr Session::find(std::string const& key) const {
     for (auto const& entry : entries_)

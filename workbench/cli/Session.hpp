@@ -31,6 +31,7 @@ public:
 
 private:
     Orlo::VInitialization host_;
+    std::size_t before_;  ///< entries that stood before the plug-in came
     PluginFile plugin_;
     std::vector<Orlo::WeakCreatorPtr> entries_;
 };

@@ -1,7 +1,6 @@
 #include "workbench/cli/arguments.hpp"
 
 #if defined(_WIN32)
-#include <shellapi.h>
 #include <windows.h>
 
 #include <filesystem>

@@ -74,7 +74,8 @@ std::string asText(Session const& session) {
     std::string text;
     for (auto const& entry : session.entries())
         text += entryAsText(*entry);
-    return text + std::to_string(session.entries().size()) + " entries\n";
+    std::size_t const count = session.entries().size();
+    return text + std::to_string(count) + (count == 1 ? " entry\n" : " entries\n");
 }
 
 void run(CommonOptions const& common, bool json) {

@@ -21,5 +21,6 @@ void addCatalogue(CLI::App& program, CommonOptions const& common);
 void addDescribe(CLI::App& program, CommonOptions const& common);
 void addLookup(CLI::App& program, CommonOptions const& common);
 void addRamp(CLI::App& program, CommonOptions const& common);
+void addRun(CLI::App& program, CommonOptions const& common);
 
 }  // namespace workbench

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <new>
 
+#include "runtime/quartz/text.hpp"
 #include "workbench/cli/arguments.hpp"
 #include "workbench/cli/commands.hpp"
 #include "workbench/cli/numbers.hpp"
@@ -28,6 +29,15 @@ constexpr char Footer[] = R"(Examples:
 
 Exit status: 0 done, 1 the work failed, 2 the call was wrong.)";
 
+/// What is wrong with a level of messages; empty if nothing is.
+std::string levelProblem(std::string const& text) {
+    std::string const number = text.substr(text.starts_with(' ') ? 1 : 0);
+    Orlo::TextReader reader(number);
+    int level = -1;
+    bool const right = reader.number(level) && reader.atEnd() && level >= 0 && level <= 1000;
+    return right ? "" : inQuotes(number) + " is no whole number from 0 to 1000";
+}
+
 void addCommonOptions(CLI::App& program, CommonOptions& common) {
     program
         .add_option("--plugin", common.plugin,
@@ -39,7 +49,7 @@ void addCommonOptions(CLI::App& program, CommonOptions& common) {
                     "Show the host's messages up to this level on standard error: 50 for "
                     "parameters that are set, 100 for creators and objects too")
         ->type_name("N")
-        ->check(CLI::NonNegativeNumber);
+        ->check(levelProblem);
     program.add_flag("--refuse", common.refuse,
                      "Answer the plug-in \"not compatible\", to see what a host that does not "
                      "fit gets");
@@ -48,7 +58,7 @@ void addCommonOptions(CLI::App& program, CommonOptions& common) {
 
 void addCommands(CLI::App& program, CommonOptions const& common) {
     program.require_subcommand(1);
-    for (auto* const add : {addCatalogue, addDescribe, addLookup, addRamp})
+    for (auto* const add : {addCatalogue, addDescribe, addLookup, addRamp, addRun})
         add(program, common);
 }
 
@@ -68,21 +78,49 @@ int fail(std::string text, ExitStatus status) {
     return status;
 }
 
-/// What is wrong with the arguments, and where help is.
-std::string misuse(CLI::App const& program, CLI::ParseError const& error) {
-    std::vector<CLI::App*> const chosen = program.get_subcommands();
-    if (!chosen.empty())
-        return std::string(error.what()) + "; 'telmbench " + chosen.front()->get_name() +
-               " --help' tells how to call it";
-    std::string const remedy = "; 'telmbench --help' lists the commands";
-    std::vector<std::string> const rest = program.remaining();
-    if (rest.empty() || rest.front().starts_with('-'))
-        return error.what() + remedy;
+std::vector<std::string> commandNames(CLI::App const& program) {
     std::vector<std::string> names;
     for (CLI::App const* const command : program.get_subcommands(nullptr))
         names.push_back(command->get_name());
-    return "there is no command " + inQuotes(rest.front()) +
-           suggestion(rest.front(), names, remedy);
+    return names;
+}
+
+/// The long options of the program and of the chosen commands.
+std::vector<std::string> optionNames(CLI::App const& program) {
+    std::vector<CLI::App const*> apps{&program};
+    for (CLI::App const* const command : program.get_subcommands())
+        apps.push_back(command);
+    std::vector<std::string> names;
+    for (CLI::App const* const app : apps)
+        for (CLI::Option const* const option : app->get_options())
+            for (std::string const& name : option->get_lnames())
+                names.push_back("--" + name);
+    return names;
+}
+
+/// What is wrong with the arguments, and where help is.
+std::string misuse(CLI::App const& program, CLI::ParseError const& error) {
+    std::vector<CLI::App*> const chosen = program.get_subcommands();
+    std::string const remedy = chosen.empty() ? "; 'telmbench --help' lists the commands"
+                                              : "; 'telmbench " + chosen.front()->get_name() +
+                                                    " --help' tells how to call it";
+    auto const isOf = [&](CLI::ExitCodes kind) {
+        return error.get_exit_code() == static_cast<int>(kind);
+    };
+    std::vector<std::string> const rest = program.remaining(true);
+    auto const option =
+        std::ranges::find_if(rest, [](auto const& s) { return s.starts_with('-'); });
+    if (option != rest.end())
+        return "there is no option " + inQuotes(*option) +
+               suggestion(*option, optionNames(program), remedy);
+    if (chosen.empty() && rest.empty() && isOf(CLI::ExitCodes::RequiredError))
+        return "no command is given" + remedy;
+    if (chosen.empty() && !rest.empty())
+        return "there is no command " + inQuotes(rest.front()) +
+               suggestion(rest.front(), commandNames(program), remedy);
+    if (isOf(CLI::ExitCodes::ExtrasError) && !rest.empty())
+        return "the argument " + inQuotes(rest.front()) + " is one too many" + remedy;
+    return error.what() + remedy;
 }
 
 int run(std::vector<std::string> const& arguments) {

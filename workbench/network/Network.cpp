@@ -2,10 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
+#include "host/values/VValue.hpp"
 #include "runtime/lattice/Catalogue.hpp"
-#include "runtime/lattice/TypeRegistry.hpp"
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/common/nearest.hpp"
@@ -23,15 +22,23 @@ namespace {
 
 using std::string;
 
-/// The types of properties: as scripts and as the host's type registry call
-/// them.
+/// A new value of type `T` that the text means, or empty.
+template <class T>
+Orlo::ValuePtr read(string const& text) {
+    T value{};
+    if (!Orlo::VValueTrait<T>::setValueFromText(value, text))
+        return nullptr;
+    return new Orlo::VValue<T>(value);
+}
+
 struct PropertyType {
     char const* name;
-    char const* registered;
+    Orlo::ValuePtr (*read)(string const& text);
 };
 
-constexpr std::array PropertyTypes{PropertyType{"double", "double"}, PropertyType{"int32_t", "int"},
-                                   PropertyType{"bool", "bool"}};
+constexpr std::array PropertyTypes{PropertyType{"double", read<double>},
+                                   PropertyType{"int32_t", read<int>},
+                                   PropertyType{"bool", read<bool>}};
 
 Orlo::ValuePtr propertyValue(PropertyLine const& line) {
     auto const type = std::ranges::find_if(
@@ -39,17 +46,10 @@ Orlo::ValuePtr propertyValue(PropertyLine const& line) {
     if (type == PropertyTypes.end())
         throw CallError("there is no property type " + inQuotes(line.type) +
                         "; there are 'double', 'int32_t' and 'bool'");
-    registerSceneTypes();
-    bool ok = false;
-    Orlo::ValuePtr value = Orlo::findValueCreator(type->registered)->create(line.value, ok);
-    if (!ok)
+    Orlo::ValuePtr value = type->read(line.value);
+    if (!value)
         throw CallError(inQuotes(line.value) + " is no " + line.type);
     return value;
-}
-
-bool isNumber(string const& text) {
-    double number = 0.0;
-    return Orlo::VValueTrait<double>::setValueFromText(number, text);
 }
 
 /// Throws `CallError` unless the text is one of the attribute's form; an
@@ -63,16 +63,26 @@ void checkAttribute(string const& name, string const& text) {
                             "'hidden', as visible{visible}{icon}{hidden}");
     } else if (name == "qTelm::Net::ExpertLevel" || name == "qTelm::Net::x" ||
                name == "qTelm::Net::y") {
-        if (!isNumber(text))
+        if (!read<double>(text))
             throw CallError(inQuotes(text) + " is no number, which " + name + " must be");
     }
 }
 
-std::vector<string> catalogueKeys() {
-    std::vector<string> keys;
-    for (Orlo::WeakCreatorPtr const& creator : Orlo::catalogue())
-        keys.push_back(creator->keyname("/"));
-    return keys;
+/// The keys whose names are like that of an unknown one, as the end of a
+/// message. The folders do not count: most keys share one.
+string keySuggestion(string const& unknown) {
+    auto const nameOf = [](string const& key) { return key.substr(key.rfind('/') + 1); };
+    std::map<string, string> keys;
+    std::vector<string> names;
+    for (Orlo::WeakCreatorPtr const& creator : Orlo::catalogue()) {
+        string const key = creator->keyname("/");
+        names.push_back(nameOf(key));
+        keys.emplace(nameOf(key), key);
+    }
+    string text;
+    for (string const& name : nearest(nameOf(unknown), names))
+        text += (text.empty() ? "; near it is " : " and ") + inQuotes(keys.at(name));
+    return text.empty() ? "; a plug-in that provides it must be loaded" : text;
 }
 
 Orlo::SlotPtr findParameter(Orlo::VObject const& object, string const& name) {
@@ -115,8 +125,10 @@ Orlo::ObjectPtr Network::findObject(string const& name) const {
 }
 
 std::vector<string> Network::names() const {
-    auto const keys = std::views::keys(objects_);
-    return {keys.begin(), keys.end()};
+    std::vector<string> names;
+    for (auto const& [name, object] : objects_)
+        names.push_back(name);
+    return names;
 }
 
 std::vector<string> Network::viewers() const {
@@ -213,9 +225,8 @@ void Network::apply(CreationLine const& line) {
                         line.object + "' before this line deletes it");
     Orlo::WeakCreatorPtr const creator = Orlo::findCreator(line.key);
     if (!creator)
-        throw CallError(
-            "the catalogue has no entry " + inQuotes(line.key) +
-            suggestion(line.key, catalogueKeys(), "; a plug-in that provides it must be loaded"));
+        throw CallError("the catalogue has no entry " + inQuotes(line.key) +
+                        keySuggestion(line.key));
     objects_[line.object] = creator->create(line.object, *this, nullptr);
     missing_.erase(line.object);
 }

@@ -22,8 +22,10 @@ struct Between {
         : lower(std::clamp(static_cast<int>(place), 0, samples - 2)), part(place - lower) {}
 };
 
+/// What lies between two numbers; between two that are equal, also infinite
+/// ones, nothing else.
 double mixed(double a, double b, double part) {
-    return a + (b - a) * part;
+    return a == b ? a : a + (b - a) * part;
 }
 
 Tessar::rgba_float_t mixed(Tessar::rgba_float_t const& a, Tessar::rgba_float_t const& b,

@@ -132,7 +132,7 @@ std::string VValueTrait<Pair>::Text(Pair const& value) {
 }
 
 bool VValueTrait<Identifier>::setValueFromText(Identifier& value, std::string const& text) {
-    constexpr char const* NotInNames = "@ \t\r\n";
+    constexpr char const* NotInNames = "@ \t\r\n,;()[]{}";
     TextReader reader(text);
     Identifier read;
     read.name = reader.until(NotInNames);

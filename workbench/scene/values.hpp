@@ -86,7 +86,7 @@ struct VValueTrait<workbench::Pair> {
 };
 
 /// `radialfield@radialfield`: name and scope, neither of them empty, without
-/// blanks or further at signs.
+/// blanks, brackets, commas, semicolons or further at signs.
 template <>
 struct VValueTrait<workbench::Identifier> {
     static bool setValueFromText(workbench::Identifier& value, std::string const& text);
