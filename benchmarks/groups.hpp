@@ -12,6 +12,7 @@ Group lookups();
 std::vector<Group> updates();
 
 Group pointers();
+std::vector<Group> distinctColors();
 
 /// Loads and unloads the plug-in file itself; nobody else may hold it.
 Group loading(std::filesystem::path const& plugin);

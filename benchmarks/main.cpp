@@ -40,6 +40,7 @@ int main(int argc, char** argv) {
         groups.push_back(benchmarks::lookups());
         std::ranges::copy(benchmarks::updates(), std::back_inserter(groups));
         groups.push_back(benchmarks::pointers());
+        std::ranges::copy(benchmarks::distinctColors(), std::back_inserter(groups));
         benchmark::RunSpecifiedBenchmarks(&table);
         benchmark::ClearRegisteredBenchmarks();  // they hold objects of the plug-in
     }

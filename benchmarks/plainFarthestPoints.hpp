@@ -37,7 +37,7 @@ inline void plainPass(std::vector<LabPoint>& candidates, LabPoint const taken, s
     }
 }
 
-/// What `farthestPoints` must equal, by a full pass for every colour.
+/// What `FarthestPoints` must equal, by a full pass for every colour.
 inline std::vector<std::size_t> plainFarthestPoints(std::vector<LabPoint> candidates,
                                                     std::vector<LabPoint> const& backgrounds,
                                                     std::size_t count) {

@@ -90,7 +90,7 @@ ColorRampDistinguish::Ramp::Ramp(int count, int steps, Enum illuminant, rgba_flo
     RgbGrid const grid(steps);
     std::vector<RgbTriple> const backgrounds{widened(background1), widened(background2)};
     auto const picks =
-        farthestPoints(illuminant, grid, rgbToLab(illuminant, 2, backgrounds), Colors.size());
+        FarthestPoints(illuminant, grid).pick(rgbToLab(illuminant, 2, backgrounds), Colors.size());
     for (std::size_t n = 0; n < picks.size(); ++n) {
         RgbTriple const pick = grid[picks[n]];
         Colors[n] = {pick.red, pick.green, pick.blue, 1};

@@ -67,7 +67,14 @@ struct Coordinates {
     }
 };
 
-class Search {
+std::size_t cubed(int edge) {
+    auto const size = static_cast<std::size_t>(edge);
+    return size * size * size;
+}
+
+}  // namespace
+
+class FarthestPoints::Search {
 public:
     Search(Orlo::Enum const& illuminant, RgbGrid const& grid);
 
@@ -91,10 +98,7 @@ private:
     /// Steps a channel of a block: measured best of 4, 5, 6 at 1000 colours.
     static constexpr int BlockEdge = 6;
 
-    static std::size_t blockCount(int steps) {
-        auto const edge = static_cast<std::size_t>((steps + BlockEdge - 1) / BlockEdge);
-        return edge * edge * edge;
-    }
+    static std::size_t blockCount(int steps) { return cubed((steps + BlockEdge - 1) / BlockEdge); }
 
     void addBlock(LabConversion const& convert, std::vector<double> const& linear, int red,
                   int green, int blue);
@@ -114,12 +118,7 @@ private:
     std::size_t best_ = 0, bestPlace_ = 0;
 };
 
-std::size_t cubed(int steps) {
-    auto const edge = static_cast<std::size_t>(steps);
-    return edge * edge * edge;
-}
-
-Search::Search(Orlo::Enum const& illuminant, RgbGrid const& grid)
+FarthestPoints::Search::Search(Orlo::Enum const& illuminant, RgbGrid const& grid)
     : steps_(grid.steps()),
       points_(cubed(steps_) + blockCount(steps_)),
       nearest_(points_.L.size()),
@@ -138,8 +137,9 @@ Search::Search(Orlo::Enum const& illuminant, RgbGrid const& grid)
                 addBlock(convert, linear, red, green, blue);
 }
 
-void Search::addBlock(LabConversion const& convert, std::vector<double> const& linear, int red,
-                      int green, int blue) {
+void FarthestPoints::Search::addBlock(LabConversion const& convert,
+                                      std::vector<double> const& linear, int red, int green,
+                                      int blue) {
     int const redEnd = std::min(red + BlockEdge, steps_);
     int const greenEnd = std::min(green + BlockEdge, steps_);
     int const blueEnd = std::min(blue + BlockEdge, steps_);
@@ -164,7 +164,7 @@ void Search::addBlock(LabConversion const& convert, std::vector<double> const& l
 }
 
 /// Widens the block's box by a point. NaN widens nothing: it is near to nothing.
-void Search::bindBox(std::size_t block, LabPoint const& point) {
+void FarthestPoints::Search::bindBox(std::size_t block, LabPoint const& point) {
     auto const widen = [block](std::vector<double>& low, std::vector<double>& high, double value) {
         low[block] = value < low[block] ? value : low[block];
         high[block] = value > high[block] ? value : high[block];
@@ -174,7 +174,7 @@ void Search::bindBox(std::size_t block, LabPoint const& point) {
     widen(least_.b, greatest_.b, point.b);
 }
 
-void Search::measureBoxes(LabPoint const& taken) {
+void FarthestPoints::Search::measureBoxes(LabPoint const& taken) {
     for (std::size_t i = 0; i < bound_.size(); i += PairSize)
         store(&bound_[i], squaredDistance(outside(taken.L, &least_.L[i], &greatest_.L[i]),
                                           outside(taken.a, &least_.a[i], &greatest_.a[i]),
@@ -182,7 +182,7 @@ void Search::measureBoxes(LabPoint const& taken) {
 }
 
 /// Lets the points of a block see the colour just taken.
-void Search::approach(std::size_t block, LabPoint const& taken) {
+void FarthestPoints::Search::approach(std::size_t block, LabPoint const& taken) {
     Pair farthest = {};
     for (std::size_t i = blocks_[block].first; i < blocks_[block].end; i += PairSize) {
         Pair const distance =
@@ -196,7 +196,7 @@ void Search::approach(std::size_t block, LabPoint const& taken) {
     farthest_[block] = std::max(farthest[0], farthest[1]);
 }
 
-bool Search::take(LabPoint const& taken) {
+bool FarthestPoints::Search::take(LabPoint const& taken) {
     measureBoxes(taken);
     for (std::size_t block = 0; block < blocks_.size(); ++block)
         if (!(bound_[block] >= farthest_[block]))
@@ -209,7 +209,7 @@ bool Search::take(LabPoint const& taken) {
 
 /// Of all points at the farthest distance, the one of the lowest index: within a
 /// block that is the first place.
-void Search::findBest(double farthest) {
+void FarthestPoints::Search::findBest(double farthest) {
     best_ = std::numeric_limits<std::size_t>::max();
     for (std::size_t block = 0; block < blocks_.size(); ++block) {
         if (farthest_[block] != farthest)
@@ -225,7 +225,7 @@ void Search::findBest(double farthest) {
     }
 }
 
-std::size_t Search::indexOf(Block const& block, std::size_t place) const {
+std::size_t FarthestPoints::Search::indexOf(Block const& block, std::size_t place) const {
     auto const within = static_cast<int>(place - block.first);
     int const red = block.red + within / (block.greens * block.blues);
     int const green = block.green + within / block.blues % block.greens;
@@ -233,31 +233,35 @@ std::size_t Search::indexOf(Block const& block, std::size_t place) const {
     return static_cast<std::size_t>((red * steps_ + green) * steps_ + blue);
 }
 
-}  // namespace
-
 RgbTriple RgbGrid::operator[](std::size_t index) const noexcept {
     auto const edge = static_cast<std::size_t>(steps_);
     auto const at = [this](std::size_t step) { return channel(static_cast<int>(step)); };
     return {at(index / (edge * edge)), at(index / edge % edge), at(index % edge)};
 }
 
-std::vector<std::size_t> farthestPoints(Orlo::Enum const& illuminant, RgbGrid const& grid,
-                                        std::vector<LabPoint> const& backgrounds,
-                                        std::size_t count) {
+FarthestPoints::FarthestPoints(Orlo::Enum const& illuminant, RgbGrid const& grid)
+    : search_(grid.steps() > 0 ? std::make_unique<Search>(illuminant, grid) : nullptr) {}
+
+FarthestPoints::FarthestPoints(FarthestPoints const& other)
+    : search_(other.search_ ? std::make_unique<Search>(*other.search_) : nullptr) {}
+
+FarthestPoints::~FarthestPoints() = default;
+
+std::vector<std::size_t> FarthestPoints::pick(std::vector<LabPoint> const& backgrounds,
+                                              std::size_t count) {
     std::vector<std::size_t> picks;
-    if (grid.steps() <= 0 || count == 0)
+    if (!search_ || count == 0)
         return picks;
     picks.reserve(count);
-    Search search(illuminant, grid);
     bool more = true;
     for (LabPoint const& background : backgrounds)
-        more = search.take(background);
-    picks.push_back(search.best());
+        more = search_->take(background);
+    picks.push_back(search_->best());
     while (more && picks.size() < count) {
-        more = search.take(search.bestPoint());
-        picks.push_back(search.best());
+        more = search_->take(search_->bestPoint());
+        picks.push_back(search_->best());
     }
-    picks.resize(count, search.best());
+    picks.resize(count, search_->best());
     return picks;
 }
 

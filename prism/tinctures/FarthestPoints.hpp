@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <vector>
 
 #include "prism/tinctures/LabColor.hpp"
@@ -27,16 +28,28 @@ private:
     double h_;
 };
 
-/// Picks `count` points of the grid, one after the other, by their indices: each
-/// time the point whose nearest background or earlier pick is the farthest away,
-/// in Lab under the illuminant; of equal ones the first. Once every point
-/// coincides with a taken colour, the last pick is repeated. A point of NaNs is
-/// near to nothing. A grid without points gives no picks.
+/// The search for points of a grid that are far apart.
 ///
-/// The result is that of one pass over all points for each colour, to the last
-/// bit; most points are not looked at. Threads: any.
-std::vector<std::size_t> farthestPoints(Orlo::Enum const& illuminant, RgbGrid const& grid,
-                                        std::vector<LabPoint> const& backgrounds,
-                                        std::size_t count);
+/// The picks are those of one pass over all points for each colour, to the last
+/// bit, but most points are not looked at. Threads: any, one object each.
+class FarthestPoints {
+public:
+    /// Converts the grid to Lab under the illuminant.
+    FarthestPoints(Orlo::Enum const& illuminant, RgbGrid const& grid);
+    FarthestPoints(FarthestPoints const& other);
+    FarthestPoints& operator=(FarthestPoints const&) = delete;
+    ~FarthestPoints();
+
+    /// Picks `count` points, one after the other, by their indices: each time the
+    /// point whose nearest background or earlier pick is the farthest away; of
+    /// equal ones the first. Once every point coincides with a taken colour, the
+    /// last pick is repeated. A point of NaNs is near to nothing. A grid without
+    /// points gives no picks. To be called once.
+    std::vector<std::size_t> pick(std::vector<LabPoint> const& backgrounds, std::size_t count);
+
+private:
+    class Search;
+    std::unique_ptr<Search> search_;
+};
 
 }  // namespace prism
