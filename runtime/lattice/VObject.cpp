@@ -59,11 +59,11 @@ bool VObject::request(VRequest& request, double precision,
         return false;
     if (hasRequest(request))
         return true;
+    rememberRequest(request);  // first, so that a request ends in a ring of objects
     for (SlotPtr const& slot : slots())
         if (ObjectPtr const provider(slot->provider()); provider && !ignoreInput(slot))
             provider->request(request, precision, this, consumer);
     std::scoped_lock const lock(state_->update);
-    rememberRequest(request);
     return unsychronized_update(request, precision);
 }
 

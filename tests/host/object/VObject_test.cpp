@@ -1,0 +1,386 @@
+/// Objects: their bases and operations, requests, connections, ages.
+#include "host/object/VObject.hpp"
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "host/object/Tincture.hpp"
+#include "tests/host/object/Node.hpp"
+#include "tests/support/objects.hpp"
+#include "tests/support/virtualSlot.hpp"
+
+namespace tests {
+namespace {
+
+using namespace Orlo;
+using Nucleo::Ageable;
+
+/// A virtual base cannot be cast down statically; a direct one can.
+template <class Base, class Derived>
+concept CastsDown = requires(Base* base) {
+    static_cast<Derived*>(base);
+};
+template <class Base, class Derived>
+constexpr bool virtualBase = std::is_base_of_v<Base, Derived> && !CastsDown<Base, Derived>;
+template <class Base, class Derived>
+constexpr bool directBase = std::is_base_of_v<Base, Derived>&& CastsDown<Base, Derived>;
+
+static_assert(virtualBase<VManagedObjectBase, VObject>);
+static_assert(virtualBase<VConnectable, VObject>);
+static_assert(virtualBase<VStateCreatorBase, VObject>);
+static_assert(virtualBase<VSaveable, VObject>);
+static_assert(directBase<VManagedDomainObject<VObject>, VObject>);
+static_assert(directBase<VScriptable, VObject>);
+static_assert(directBase<VInputClassRecognition, VObject>);
+static_assert(directBase<VTraceRequestID, VObject>);
+static_assert(directBase<VObject, Tincture>);
+static_assert(std::is_base_of_v<Nucleo::ReferenceBase<VManagedObjectBase>, VManagedObjectBase>);
+static_assert(directBase<VSlotContainer, VConnectable>);
+static_assert(directBase<VConnectionValidatorList, VSlotContainer>);
+static_assert(directBase<ValueCacheable, VSlotContainer>);
+static_assert(virtualBase<VManagedObjectBase, VSlotContainer>);
+static_assert(std::is_base_of_v<Nucleo::Intercube, VManagedObject>);
+static_assert(std::is_base_of_v<Nucleo::MutableName, VManagedObject>);
+static_assert(!std::is_polymorphic_v<VSaveable>, "it has no virtual operations");
+static_assert(!std::is_polymorphic_v<VInputClassRecognition>, "it has no table of its own");
+
+TEST(ObjectOperations, StandInTheirOrder) {
+    EXPECT_EQ(virtualSlot(&VManagedObject::owner), 3u);
+    EXPECT_EQ(virtualSlot(&VManagedObject::domain), 4u);
+    EXPECT_EQ(virtualSlot(&VObject::request), 5u);
+    EXPECT_EQ(virtualSlot(&VObject::update), 6u);
+    EXPECT_EQ(virtualSlot(&VObject::must_update), 7u);
+    EXPECT_EQ(virtualSlot(&VObject::unsychronized_update), 8u);
+    EXPECT_EQ(virtualSlot(&VObject::gimp_icon), 9u);
+    EXPECT_EQ(virtualSlot(&VObject::xpm_icon), 10u);
+    EXPECT_EQ(virtualSlot(&VObject::qt_icon), 11u);
+    EXPECT_EQ(virtualSlot(&VObject::help), 12u);
+    EXPECT_EQ(virtualSlot(&VObject::copy), 13u);
+    EXPECT_EQ(virtualSlot(&VObject::type_key), 14u);
+    EXPECT_EQ(virtualSlot(&VObject::CreateParameterName), 15u);
+    EXPECT_EQ(virtualSlot(&VObject::InputCreation), 16u);
+    EXPECT_EQ(virtualSlot(&Tincture::xpm_icon), 10u) << "it takes the place of the object's";
+}
+
+TEST(ObjectOperations, OfTheOtherBasesStandInTablesOfTheirOwn) {
+    EXPECT_EQ(virtualSlot(&VManagedObjectBase::finalUnction), 1u);
+    EXPECT_EQ(virtualSlot(&VTraceRequestID::hasRequest), 3u);
+    EXPECT_EQ(virtualSlot(&VStateCreatorBase::newState), 3u);
+    EXPECT_EQ(virtualSlot(&VConnectable::setup), 3u);
+    EXPECT_EQ(virtualSlot(&VConnectable::allowParameterReplacement), 4u);
+    EXPECT_EQ(virtualSlot(&VConnectable::connectSlots), 5u);
+    EXPECT_EQ(virtualSlot(&VConnectable::ignoreInput), 6u);
+    EXPECT_EQ(virtualSlot(&VConnectable::implements), 7u);
+    EXPECT_EQ(virtualSlot(&VConnectable::getImplementation), 8u);
+    EXPECT_EQ(virtualSlot(&VConnectable::iterateOutputs), 9u);
+    EXPECT_EQ(virtualSlot(&VConnectable::CreatedFilteredConnection), 10u);
+    EXPECT_EQ(virtualSlot(&VConnectable::adjustConnections), 11u);
+}
+
+TEST(VirtualBases, LieInTheOrderOfTheirConstruction) {
+    NodePtr const node = new Node;
+    auto const place = [&]<class Base>(Base const* base) { return static_cast<void const*>(base); };
+    void const* const counted = place(static_cast<VManagedObjectBase const*>(node.get()));
+    void const* const connectable = place(static_cast<VConnectable const*>(node.get()));
+    void const* const state = place(static_cast<VStateCreatorBase const*>(node.get()));
+    EXPECT_LT(counted, connectable);
+    EXPECT_LT(connectable, state);
+}
+
+TEST(VirtualBases, AreOneSubobjectHoweverReached) {
+    NodePtr const node = new Node;
+    VManagedObjectBase const* const one = static_cast<VConnectable const*>(node.get());
+    VManagedObjectBase const* const two = static_cast<VManagedObject const*>(node.get());
+    EXPECT_EQ(one, two);
+}
+
+TEST(ObjectCasts, ReachEveryBaseFromTheCountedOne) {
+    NodePtr const node = new Node;
+    VManagedObjectBase* const base = node.get();
+    EXPECT_NE(dynamic_cast<VObject*>(base), nullptr);
+    EXPECT_NE(dynamic_cast<VConnectable*>(base), nullptr);
+    EXPECT_NE(dynamic_cast<VSlotContainer*>(base), nullptr);
+    EXPECT_NE(dynamic_cast<VStateCreatorBase*>(base), nullptr);
+    EXPECT_NE(dynamic_cast<VScriptable*>(base), nullptr);
+    EXPECT_NE(dynamic_cast<VTraceRequestID*>(base), nullptr);
+    EXPECT_NE(dynamic_cast<Nucleo::Intercube*>(base), nullptr);
+    EXPECT_NE(dynamic_cast<Nucleo::MutableName*>(base), nullptr);
+    EXPECT_EQ(dynamic_cast<Tincture*>(base), nullptr);
+}
+
+/// A value that looks at an object while it dies.
+class LastLook : public VValue<double> {
+public:
+    LastLook(WeakObjectPtr const& object, bool& alive) : object_(object), alive_(alive) {}
+    LastLook(LastLook const& other)
+        : VValue<double>(), object_(other.object_), alive_(other.alive_) {}
+    ~LastLook() override { alive_ = object_.controlBlock()->objectNow() != nullptr; }
+    ValuePtr copy() const override { return new LastLook(*this); }
+
+private:
+    Nucleo::WeakPtr<VObject, VManagedObjectBase> object_;
+    bool& alive_;
+};
+
+TEST(VirtualBases, DieInReverseTheCountedOneLast) {
+    auto* const node = new Node;  // held by nobody, so that only its own end marks it as dead
+    bool countedStands = false;
+    {
+        StrongPtr<VValue<double>, VValueBase> const value =
+            new LastLook(WeakObjectPtr(node), countedStands);
+        ParameterPtr const parameter = new VValueParameter<double>(value, "last");
+        VSlotGlobals::addParameter(node, "last", 0, parameter, true);
+    }
+    delete node;
+    EXPECT_TRUE(countedStands) << "the slots die with the connectable base, before the counted one";
+}
+
+TEST(Object, HasNoIconHelpStateOrOwnerOfItsOwn) {
+    NodePtr const node = new Node("name");
+    EXPECT_EQ(node->Name(), "name");
+    EXPECT_EQ(node->gimp_icon(), "");
+    EXPECT_EQ(node->xpm_icon(), "");
+    EXPECT_EQ(node->qt_icon(), "");
+    EXPECT_EQ(node->help(VObject::ShortHelp), "");
+    EXPECT_FALSE(node->newState());
+    EXPECT_FALSE(node->owner());
+    EXPECT_EQ(node->domain(), typeid(VObject));
+    EXPECT_EQ(node->type_key(), "");
+    EXPECT_FALSE(node->copy()) << "no creator, no copy";
+    EXPECT_FALSE(node->implements(typeid(double)));
+    EXPECT_FALSE(node->getImplementation(typeid(double)));
+    EXPECT_EQ(node->CreateParameterName("wish"), "wish");
+}
+
+// --- Requests
+
+class Requests : public testing::Test {
+protected:
+    Requests() {
+        for (NodePtr const& node : {first_, second_, third_})
+            node->enableRequestProcessing();
+    }
+    bool ask(Node& node, PoolPtr const& pool) {
+        VRequest request(pool);
+        return node.request(request, 0.5, nullptr, nullptr);
+    }
+    static bool connect(Node& consumer, Node& provider) {
+        return consumer.connectSlots(consumer.slot("in"), provider, provider.slot("out"));
+    }
+
+    NodePtr first_ = new Node("first"), second_ = new Node("second"), third_ = new Node("third");
+    PoolPtr pool_ = makePool();
+};
+
+TEST_F(Requests, AreAnsweredOnlyOnceEnabled) {
+    NodePtr const node = new Node;
+    EXPECT_FALSE(ask(*node, pool_));
+    EXPECT_EQ(node->updates, 0);
+    node->enableRequestProcessing();
+    EXPECT_TRUE(ask(*node, pool_));
+    EXPECT_EQ(node->updates, 1);
+    EXPECT_EQ(node->lastPrecision, 0.5);
+}
+
+TEST_F(Requests, UpdateOnceUntilSomethingChanges) {
+    EXPECT_TRUE(ask(*first_, pool_));
+    EXPECT_TRUE(ask(*first_, pool_));
+    EXPECT_EQ(first_->updates, 1);
+    set(*first_, "in", "5");
+    EXPECT_TRUE(ask(*first_, pool_));
+    EXPECT_EQ(first_->updates, 2);
+    EXPECT_EQ(first_->result(pool_), 10);
+}
+
+TEST_F(Requests, UpdateInEachPool) {
+    PoolPtr const other = makePool();
+    set(*first_, "in", "3", other);
+    ask(*first_, pool_);
+    ask(*first_, other);
+    EXPECT_EQ(first_->updates, 2);
+    EXPECT_EQ(first_->result(pool_), 2);
+    EXPECT_EQ(first_->result(other), 6);
+}
+
+TEST_F(Requests, PullTheProvidersFirst) {
+    ASSERT_TRUE(connect(*second_, *first_));
+    ASSERT_TRUE(connect(*third_, *second_));
+    std::string order;
+    first_->atUpdate = [&] { order += "1"; };
+    second_->atUpdate = [&] { order += "2"; };
+    third_->atUpdate = [&] { order += "3"; };
+    ask(*third_, pool_);
+    EXPECT_EQ(order, "123");
+    EXPECT_EQ(third_->result(pool_), 8);
+    set(*first_, "in", "2");
+    ask(*third_, pool_);
+    EXPECT_EQ(order, "123123");
+    EXPECT_EQ(third_->result(pool_), 16);
+}
+
+TEST_F(Requests, PassAnObjectOnceHoweverManyConsumersItHas) {
+    connect(*second_, *first_);
+    connect(*third_, *first_);
+    VRequest request(pool_);
+    second_->request(request, 0, nullptr, nullptr);
+    third_->request(request, 0, nullptr, nullptr);
+    EXPECT_EQ(first_->updates, 1);
+    EXPECT_TRUE(first_->hasRequest(request));
+    EXPECT_FALSE(first_->hasRequest(VRequest(pool_)));
+}
+
+TEST_F(Requests, EndInARing) {
+    connect(*second_, *first_);
+    EXPECT_TRUE(connect(*first_, *second_));
+    EXPECT_TRUE(ask(*second_, pool_));
+    first_->slot("in")->disconnect();
+}
+
+TEST_F(Requests, PassIgnoredInputsBy) {
+    connect(*second_, *first_);
+    second_->ignores = true;
+    ask(*second_, pool_);
+    EXPECT_EQ(first_->updates, 0);
+    EXPECT_EQ(second_->updates, 1);
+}
+
+TEST_F(Requests, GiveTheResultOfTheUpdateAndAskAgainAfterAFailure) {
+    first_->succeeds = false;
+    EXPECT_FALSE(ask(*first_, pool_));
+    EXPECT_FALSE(ask(*first_, pool_));
+    EXPECT_EQ(first_->updates, 2);
+    first_->succeeds = true;
+    EXPECT_TRUE(ask(*first_, pool_));
+    EXPECT_TRUE(ask(*first_, pool_));
+    EXPECT_EQ(first_->updates, 3);
+}
+
+TEST_F(Requests, FromManyThreadsRunOneUpdateAtATime) {
+    std::atomic<int> inside{0};
+    std::atomic<bool> overlapped{false};
+    first_->atUpdate = [&] {
+        overlapped = overlapped || ++inside != 1;
+        std::this_thread::yield();
+        --inside;
+    };
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 4; ++i)
+        threads.emplace_back([&] {
+            for (int k = 0; k < 50; ++k)
+                ask(*first_, makePool());
+        });
+    for (auto& thread : threads)
+        thread.join();
+    EXPECT_FALSE(overlapped);
+    EXPECT_EQ(first_->updates, 200);
+}
+
+// --- Changes
+
+TEST_F(Requests, NoteWhatHasChangedSinceTheLastFinishedUpdateInThePool) {
+    SlotPtr const in = first_->slot("in");
+    EXPECT_TRUE(first_->hasChanged(in, pool_)) << "there was no update";
+    ask(*first_, pool_);
+    EXPECT_FALSE(first_->hasChanged(in, pool_));
+    EXPECT_TRUE(first_->hasChanged(in, makePool())) << "none in that pool";
+    set(*first_, "in", "1");
+    EXPECT_TRUE(first_->hasChanged(in, pool_)) << "set again is changed";
+    ask(*first_, pool_);
+    EXPECT_FALSE(first_->hasChanged(in, pool_));
+    set(*first_, "in", "4", makePool());
+    EXPECT_FALSE(first_->hasChanged(in, pool_)) << "set in another pool";
+}
+
+TEST_F(Requests, SeeAChangeThatComesDuringTheUpdate) {
+    first_->atUpdate = [this] {
+        if (first_->updates == 1)
+            set(*first_, "in", "9");
+    };
+    ask(*first_, pool_);
+    EXPECT_TRUE(first_->hasChanged(first_->slot("in"), pool_));
+}
+
+TEST_F(Requests, AgeTheContainerByItsYoungestInput) {
+    PoolPtr const other = makePool();
+    set(*first_, "in", "4");
+    EXPECT_EQ(first_->age(pool_), Ageable::now());
+    Ageable::GlobalTime.fetch_add(5);
+    EXPECT_EQ(first_->age(pool_), Ageable::now() - 5);
+    set(*first_, "in", "5", other);
+    EXPECT_EQ(first_->age(other), Ageable::now());
+    EXPECT_LT(first_->age(pool_), Ageable::now());
+    EXPECT_EQ(first_->slot("in")->age(other), first_->age(other));
+}
+
+TEST_F(Requests, FindNewConnectionsChanged) {
+    ask(*second_, pool_);
+    connect(*second_, *first_);
+    EXPECT_TRUE(second_->hasChanged(second_->slot("in"), pool_));
+    ask(*second_, pool_);
+    EXPECT_EQ(second_->result(pool_), 4);
+    second_->slot("in")->disconnect();
+    EXPECT_TRUE(second_->hasChanged(second_->slot("in"), pool_));
+    ask(*second_, pool_);
+    EXPECT_EQ(second_->result(pool_), 2) << "its own value stands again";
+}
+
+// --- Connections
+
+TEST_F(Requests, ReadTheProvidersParameterThroughAConnectedSlot) {
+    connect(*second_, *first_);
+    SlotPtr const in = second_->slot("in");
+    EXPECT_EQ(in->parameter().get(), first_->slot("out")->parameter().get());
+    EXPECT_NE(in->parameter().get(), in->ownParameter().get());
+    EXPECT_TRUE(in->provider());
+}
+
+TEST_F(Requests, RefuseConnectionsOfOtherTypesAndOfOutputs) {
+    registerValueTypes<int>();
+    TypedSlot<int> const count(first_.get(), "count", 1, 0);
+    EXPECT_FALSE(first_->connectSlots(first_->slot("count"), *second_, second_->slot("out")));
+    EXPECT_EQ(first_->slot("count")->parameter().get(),
+              first_->slot("count")->ownParameter().get());
+    EXPECT_FALSE(first_->connectSlots(first_->slot("out"), *second_, second_->slot("out")));
+    EXPECT_TRUE(
+        first_->allowParameterReplacement(first_->slot("in"), second_->slot("out")->parameter()));
+}
+
+TEST_F(Requests, FindTheOwnParameterAgainWhenTheProviderIsGone) {
+    connect(*second_, *first_);
+    first_ = nullptr;
+    SlotPtr const in = second_->slot("in");
+    EXPECT_EQ(in->parameter().get(), in->ownParameter().get());
+    EXPECT_FALSE(in->provider());
+    EXPECT_TRUE(ask(*second_, pool_));
+    EXPECT_EQ(second_->result(pool_), 2);
+}
+
+TEST_F(Requests, HaveNoHookThatDoesAnything) {
+    first_->setup({});
+    first_->adjustConnections();
+    first_->CreatedFilteredConnection(first_->slot("in"));
+    first_->InputCreation(nullptr, nullptr, nullptr);
+    EXPECT_EQ(first_->updates, 0);
+}
+
+// --- Slots
+
+TEST_F(Requests, KeepSlotsInTheirOrderAndReplaceThoseOfTheSameName) {
+    NodePtr const node = new Node;
+    TypedSlot<double> const again(node.get(), "in", 7.0, 0);
+    ASSERT_EQ(node->slots().size(), 2u);
+    EXPECT_EQ(node->slots()[0].get(), again.slot().get());
+    EXPECT_EQ(node->slots()[1]->name(), "out");
+    EXPECT_FALSE(node->slot("no such slot"));
+    EXPECT_EQ(inputs(*node).size(), 1u);
+}
+
+TEST_F(Requests, AcceptAnObjectOnceForEachInput) {
+    AcceptList const ways = VObject::accept(first_);
+    ASSERT_EQ(ways.size(), 1u);
+    EXPECT_EQ(ways.front()->slotName, "in");
+}
+
+}  // namespace
+}  // namespace tests
