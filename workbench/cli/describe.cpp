@@ -52,9 +52,12 @@ std::vector<std::string> outputsOf(Orlo::VObject const& object) {
     return names;
 }
 
+/// A limit as the number that its text is, if it is one.
 Json limitAsJson(std::string const& text) {
-    std::optional<double> const number = readNumber(text);
-    return number ? jsonNumber(*number) : text.empty() ? Json() : Json(text);
+    Json const number = Json::parse(text, nullptr, false);
+    if (number.is_number())
+        return number;
+    return text.empty() ? Json() : Json(text);
 }
 
 Json parameterAsJson(ParameterFacts const& parameter) {

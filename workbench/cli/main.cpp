@@ -104,18 +104,21 @@ std::string misuse(CLI::App const& program, CLI::ParseError const& error) {
     std::string const remedy = chosen.empty() ? "; 'telmbench --help' lists the commands"
                                               : "; 'telmbench " + chosen.front()->get_name() +
                                                     " --help' tells how to call it";
+    auto const isOf = [&](CLI::ExitCodes kind) {
+        return error.get_exit_code() == static_cast<int>(kind);
+    };
     std::vector<std::string> const rest = program.remaining(true);
     auto const option =
         std::ranges::find_if(rest, [](auto const& s) { return s.starts_with('-'); });
     if (option != rest.end())
         return "there is no option " + inQuotes(*option) +
                suggestion(*option, optionNames(program), remedy);
-    if (chosen.empty() && rest.empty() && error.get_name() == "RequiredError")
+    if (chosen.empty() && rest.empty() && isOf(CLI::ExitCodes::RequiredError))
         return "no command is given" + remedy;
     if (chosen.empty() && !rest.empty())
         return "there is no command " + inQuotes(rest.front()) +
                suggestion(rest.front(), commandNames(program), remedy);
-    if (error.get_name() == "ExtrasError" && !rest.empty())
+    if (isOf(CLI::ExitCodes::ExtrasError) && !rest.empty())
         return "the argument " + inQuotes(rest.front()) + " is one too many" + remedy;
     return error.what() + remedy;
 }

@@ -37,7 +37,7 @@ std::size_t editDistance(std::string const& a, std::string const& b) {
 /// How unlike two words in lower case are; none if they are not alike at all.
 std::optional<std::size_t> unlikeness(std::string const& a, std::string const& b) {
     auto const [shorter, longer] = std::minmax({a.size(), b.size()});
-    std::size_t const limit = std::max<std::size_t>(2, b.size() / 3);
+    std::size_t const limit = std::max(std::min<std::size_t>(2, b.size() / 2), b.size() / 4);
     if (longer - shorter <= limit)
         if (std::size_t const distance = editDistance(a, b); distance <= limit && distance < longer)
             return distance;

@@ -1,12 +1,28 @@
 #include "workbench/common/typeNames.hpp"
 
 #include <array>
+#include <string_view>
 
 #include "host/colormap/Colormap.hpp"
 #include "host/pointers/Typename.hpp"
 #include "host/values/VValueTrait.hpp"
 
 namespace workbench {
+
+namespace {
+
+/// The last name of a type: "Bundle" of `std::shared_ptr<space::Bundle const>`.
+std::string lastName(std::string name) {
+    constexpr std::string_view Shared = "std::shared_ptr<";
+    constexpr std::string_view Constant = " const>";
+    if (name.starts_with(Shared) && name.ends_with(Constant))
+        name = name.substr(Shared.size(), name.size() - Shared.size() - Constant.size());
+    std::size_t const colons =
+        name.find('<') == std::string::npos ? name.rfind("::") : std::string::npos;
+    return colons == std::string::npos ? name : name.substr(colons + 2);
+}
+
+}  // namespace
 
 std::string typeName(std::type_info const& type) {
     struct Known {
@@ -28,7 +44,7 @@ std::string typeName(std::type_info const& type) {
     for (Known const& each : known)
         if (each.type == type)
             return each.name;
-    return Nucleo::Typename(type);
+    return lastName(Nucleo::Typename(type));
 }
 
 }  // namespace workbench

@@ -22,13 +22,17 @@ void* openLibrary(std::filesystem::path const& file) {
     return LoadLibraryExW(file.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
 }
 
-std::string openError() { return std::system_category().message(static_cast<int>(GetLastError())); }
+std::string openError() {
+    return std::system_category().message(static_cast<int>(GetLastError()));
+}
 
 void* findSymbol(void* library, char const* name) {
     return reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(library), name));
 }
 
-void closeLibrary(void* library) { FreeLibrary(static_cast<HMODULE>(library)); }
+void closeLibrary(void* library) {
+    FreeLibrary(static_cast<HMODULE>(library));
+}
 
 std::filesystem::path programFile() {
     std::array<wchar_t, 32768> text{};
@@ -42,13 +46,21 @@ void* openLibrary(std::filesystem::path const& file) {
     return dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
 }
 
-std::string openError() { return dlerror(); }
+std::string openError() {
+    return dlerror();
+}
 
-void* findSymbol(void* library, char const* name) { return dlsym(library, name); }
+void* findSymbol(void* library, char const* name) {
+    return dlsym(library, name);
+}
 
-void closeLibrary(void* library) { dlclose(library); }
+void closeLibrary(void* library) {
+    dlclose(library);
+}
 
-std::filesystem::path programFile() { return std::filesystem::read_symlink("/proc/self/exe"); }
+std::filesystem::path programFile() {
+    return std::filesystem::read_symlink("/proc/self/exe");
+}
 
 #endif
 
@@ -57,6 +69,8 @@ std::filesystem::path programFile() { return std::filesystem::read_symlink("/pro
 PluginFile::PluginFile(std::filesystem::path const& file, Orlo::VInitialization& host)
     : path_(std::filesystem::absolute(file)) {
     std::string const name = "the plug-in '" + file.string() + "'";
+    if (std::filesystem::is_directory(path_))
+        throw PluginError(name + " is a folder; --plugin FILE names the library itself");
     if (!std::filesystem::is_regular_file(path_))
         throw PluginError(name + " does not exist; --plugin FILE names another");
     library_ = openLibrary(path_);
@@ -66,7 +80,8 @@ PluginFile::PluginFile(std::filesystem::path const& file, Orlo::VInitialization&
     auto const question = reinterpret_cast<Question>(findSymbol(library_, ExportName));
     if (question == nullptr) {
         closeLibrary(library_);
-        throw PluginError(name + " is a library, but not this kind of plug-in: it lacks the export " +
+        throw PluginError(name +
+                          " is a library, but not this kind of plug-in: it lacks the export " +
                           ExportName);
     }
     answer_ = question(&host);
@@ -77,7 +92,9 @@ PluginFile::PluginFile(std::filesystem::path const& file, Orlo::VInitialization&
     }
 }
 
-PluginFile::~PluginFile() { closeLibrary(library_); }
+PluginFile::~PluginFile() {
+    closeLibrary(library_);
+}
 
 std::filesystem::path pluginBesideProgram() {
     return programFile().parent_path() / "prism_tinctures.telm";

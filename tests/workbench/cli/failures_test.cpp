@@ -1,0 +1,283 @@
+/// Every way to fail: one line on standard error that names the culprit and the
+/// remedy, the right status, and nothing left behind.
+#include <algorithm>
+
+#include "tests/workbench/cli/telmbench.hpp"
+#include "workbench/common/files.hpp"
+
+namespace {
+
+using namespace tests;
+
+constexpr int WorkFailed = 1;
+constexpr int CallWrong = 2;
+
+#if defined(_WIN32)
+constexpr char NoLibraryAtAll[] = "Bad EXE format for";
+#else
+constexpr char NoLibraryAtAll[] = "{folder}/text.telm: file too short";
+#endif
+
+struct FailureCase {
+    char const* rule;
+    Lines arguments;  ///< {folder} stands for a folder, {beside} for that of the program
+    int status;
+    std::string message;  ///< behind "telmbench: "
+};
+
+FailureCase const pluginCases[] = {
+    {"no such plug-in",
+     {"--plugin", "{folder}/none.telm", "catalogue"},
+     WorkFailed,
+     "the plug-in '{folder}/none.telm' does not exist; --plugin FILE names another"},
+    {"a folder",
+     {"--plugin", "{folder}", "catalogue"},
+     WorkFailed,
+     "the plug-in '{folder}' is a folder; --plugin FILE names the library itself"},
+    {"a file that is no library",
+     {"--plugin", "{folder}/text.telm", "catalogue"},
+     WorkFailed,
+     std::string("the plug-in '{folder}/text.telm' cannot be loaded as a library: ") +
+         NoLibraryAtAll},
+    {"a library without the export",
+     {"--plugin", "{beside}/no_plugin.telm", "catalogue"},
+     WorkFailed,
+     "the plug-in '{beside}/no_plugin.telm' is a library, but not this kind of plug-in: it lacks "
+     "the export TELM_API_2024_MAR_06__prism_tinctures"},
+    {"a host that does not fit",
+     {"--plugin", "{beside}/prism_tinctures.telm", "--refuse", "catalogue"},
+     WorkFailed,
+     "the host answers that the plug-in '{beside}/prism_tinctures.telm' is not compatible; build "
+     "it against this host's interface"},
+};
+
+FailureCase const entryCases[] = {
+    {"a name that is nearly right",
+     {"describe", "Hypsometrik"},
+     CallWrong,
+     "there is no entry 'Hypsometrik'; did you mean 'Hypsometric'?"},
+    {"a key that is nearly right",
+     {"lookup", "Colormap/Topographic", "0"},
+     CallWrong,
+     "there is no entry 'Colormap/Topographic'; did you mean 'Colormaps/Topographic'?"},
+    {"a name like no other",
+     {"ramp", "Watermelon", "-o", "{folder}/new.png"},
+     CallWrong,
+     "there is no entry 'Watermelon'; 'telmbench catalogue' lists them"},
+    {"the wrong folder",
+     {"describe", "Watermelons/Hypsometric/x"},
+     CallWrong,
+     "there is no entry 'Watermelons/Hypsometric/x'; 'telmbench catalogue' lists them"},
+};
+
+FailureCase const settingCases[] = {
+    {"an unknown parameter",
+     {"lookup", "Hypsometric", "--set", "option=inverse", "0"},
+     CallWrong,
+     "'Hypsometric' has no parameter 'option'; did you mean 'options'?"},
+    {"a parameter of an object that has none",
+     {"lookup", "TulElbeColorScheme", "--set", "options=x", "0"},
+     CallWrong,
+     "'TulElbeColorScheme' has no parameter 'options'; it has none"},
+    {"the output",
+     {"lookup", "Hypsometric", "--set", "colormap=x", "0"},
+     CallWrong,
+     "the parameter 'colormap' of 'Hypsometric' is an output; it cannot be set"},
+    {"a text that does not parse",
+     {"ramp", "Hypsometric", "--set", "options=upward", "-o", "{folder}/new.png"},
+     CallWrong,
+     "the text 'upward' is no value of the parameter 'options' of type FlagList; a right one is "
+     "the present ' -inverse'"},
+    {"no text",
+     {"lookup", "Hypsometric", "--set", "options", "0"},
+     CallWrong,
+     "the setting 'options' is not of the form NAME=TEXT"},
+};
+
+FailureCase const valueCases[] = {
+    {"a word",
+     {"lookup", "Hypsometric", "0", "many", "1"},
+     CallWrong,
+     "value 2, 'many', is no number within the range of a double, such as 0.5, -1e-3, 0x1p-4, "
+     "nan, inf or -inf"},
+    {"a number with more behind it",
+     {"lookup", "Hypsometric", "0.5x"},
+     CallWrong,
+     "value 1, '0.5x', is no number within the range of a double, such as 0.5, -1e-3, 0x1p-4, "
+     "nan, inf or -inf"},
+    {"a number too large",
+     {"lookup", "Hypsometric", "1e999"},
+     CallWrong,
+     "value 1, '1e999', is no number within the range of a double, such as 0.5, -1e-3, 0x1p-4, "
+     "nan, inf or -inf"},
+    {"a number with a comma",
+     {"lookup", "Hypsometric", "0,5"},
+     CallWrong,
+     "value 1, '0,5', is no number within the range of a double, such as 0.5, -1e-3, 0x1p-4, "
+     "nan, inf or -inf"},
+    {"no values",
+     {"lookup", "Hypsometric"},
+     CallWrong,
+     "VALUE is required; 'telmbench lookup --help' tells how to call it"},
+};
+
+constexpr char BadSize[] =
+    "is not of the form WIDTHxHEIGHT with 1 to 16384 pixels each, such as 512x64";
+
+FailureCase const pictureCases[] = {
+    {"a size of one number",
+     {"ramp", "Hypsometric", "--size", "512", "-o", "{folder}/new.png"},
+     CallWrong,
+     std::string("the size '512' ") + BadSize},
+    {"no pixels",
+     {"ramp", "Hypsometric", "--size", "0x64", "-o", "{folder}/new.png"},
+     CallWrong,
+     std::string("the size '0x64' ") + BadSize},
+    {"too wide",
+     {"ramp", "Hypsometric", "--size", "16385x1", "-o", "{folder}/new.png"},
+     CallWrong,
+     std::string("the size '16385x1' ") + BadSize},
+    {"too high",
+     {"ramp", "Hypsometric", "--size", "1x16385", "-o", "{folder}/new.png"},
+     CallWrong,
+     std::string("the size '1x16385' ") + BadSize},
+    {"more than an int",
+     {"ramp", "Hypsometric", "--size", "99999999999x1", "-o", "{folder}/new.png"},
+     CallWrong,
+     std::string("the size '99999999999x1' ") + BadSize},
+    {"no file",
+     {"ramp", "Hypsometric"},
+     CallWrong,
+     "-o is required; 'telmbench ramp --help' tells how to call it"},
+    {"a folder that is not there",
+     {"ramp", "Hypsometric", "-o", "{folder}/none/new.png"},
+     WorkFailed,
+     "cannot write '{folder}/none/new.png': No such file or directory"},
+    {"a folder instead of a file",
+     {"ramp", "Hypsometric", "-o", "{folder}"},
+     WorkFailed,
+     "cannot write '{folder}': it is a folder"},
+};
+
+FailureCase const callCases[] = {
+    {"nothing", {}, CallWrong, "no command is given; 'telmbench --help' lists the commands"},
+    {"an unknown command",
+     {"catalog"},
+     CallWrong,
+     "there is no command 'catalog'; did you mean 'catalogue'?"},
+    {"a command like no other",
+     {"watermelon"},
+     CallWrong,
+     "there is no command 'watermelon'; 'telmbench --help' lists the commands"},
+    {"an unknown option",
+     {"catalogue", "--jsn"},
+     CallWrong,
+     "there is no option '--jsn'; did you mean '--json'?"},
+    {"an option like no other",
+     {"lookup", "Hypsometric", "-x"},
+     CallWrong,
+     "there is no option '-x'; 'telmbench lookup --help' tells how to call it"},
+    {"an argument too many",
+     {"catalogue", "extra"},
+     CallWrong,
+     "the argument 'extra' is one too many; 'telmbench catalogue --help' tells how to call it"},
+    {"a level that is no number",
+     {"--verbosity", "many", "catalogue"},
+     CallWrong,
+     "--verbosity: 'many' is no whole number from 0 to 1000; 'telmbench catalogue --help' tells "
+     "how to call it"},
+    {"a level below all",
+     {"catalogue", "--verbosity", "-1"},
+     CallWrong,
+     "--verbosity: '-1' is no whole number from 0 to 1000; 'telmbench catalogue --help' tells how "
+     "to call it"},
+    {"an option without its text",
+     {"ramp", "Hypsometric", "-o"},
+     CallWrong,
+     "-o: 1 required FILE missing; 'telmbench ramp --help' tells how to call it"},
+};
+
+std::string replaced(std::string text, std::string const& what, std::string const& by) {
+    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size())
+        text.replace(at, what.size(), by);
+    return text;
+}
+
+template <std::size_t Count>
+void expectFailures(FailureCase const (&cases)[Count]) {
+    std::string const beside = programBeside("telmbench").parent_path().string();
+    for (FailureCase const& c : cases) {
+        TemporaryFolder const folder;
+        workbench::writeFile(folder / "text.telm", "no library\n");
+        auto const filledIn = [&](std::string const& text) {
+            return replaced(replaced(text, "{folder}", folder.path().string()), "{beside}", beside);
+        };
+        Lines arguments = c.arguments;
+        std::ranges::transform(arguments, arguments.begin(), filledIn);
+        ProcessResult const result = telmbench(arguments);
+        EXPECT_EQ(result.status, c.status) << c.rule;
+        EXPECT_EQ(result.out, "") << c.rule;
+        EXPECT_EQ(result.errLines(), Lines{"telmbench: " + filledIn(c.message)}) << c.rule;
+        EXPECT_EQ(folder.names(), Lines{"text.telm"}) << c.rule;
+    }
+}
+
+TEST(Failures, OfPlugins) {
+    expectFailures(pluginCases);
+}
+TEST(Failures, OfEntries) {
+    expectFailures(entryCases);
+}
+TEST(Failures, OfSettings) {
+    expectFailures(settingCases);
+}
+TEST(Failures, OfValues) {
+    expectFailures(valueCases);
+}
+TEST(Failures, OfPictures) {
+    expectFailures(pictureCases);
+}
+TEST(Failures, OfCalls) {
+    expectFailures(callCases);
+}
+
+TEST(Failures, ABadValueOnStandardInputIsNamedWithItsPlace) {
+    ProcessResult const result = telmbench({"lookup", "Hypsometric", "-"}, "0 0.5\n1 many 2\n");
+    EXPECT_EQ(result.status, CallWrong);
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(result.errLines(),
+              Lines{"telmbench: value 4 of standard input, 'many', is no number within the range "
+                    "of a double, such as 0.5, -1e-3, 0x1p-4, nan, inf or -inf"});
+}
+
+TEST(Failures, AnEndlessArgumentGivesAShortMessage) {
+    // a whole call may be 32 KB long on Windows
+    ProcessResult const result = telmbench({"describe", std::string(30'000, 'x')});
+    EXPECT_EQ(result.status, CallWrong);
+    EXPECT_EQ(result.errLines(), Lines{"telmbench: there is no entry '" + std::string(80, 'x') +
+                                       "...'; 'telmbench catalogue' lists them"});
+}
+
+TEST(Failures, ALineEndInAnArgumentStaysInTheLine) {
+    EXPECT_EQ(telmbench({"describe", "a\nb"}).errLines(),
+              Lines{"telmbench: there is no entry 'a\\x0ab'; 'telmbench catalogue' lists them"});
+}
+
+#if !defined(_WIN32)
+
+TEST(Failures, ResultsThatCannotBeWritten) {
+    for (Lines const& arguments :
+         {Lines{"catalogue"}, Lines{"catalogue", "--json"}, Lines{"lookup", "Hypsometric", "0"},
+          Lines{"describe", "Hypsometric"}}) {
+        ProcessResult const result =
+            runProcess(programBeside("telmbench"), arguments, {}, {.out = "/dev/full"});
+        EXPECT_EQ(result.status, WorkFailed);
+        EXPECT_EQ(result.errLines(),
+                  Lines{"telmbench: cannot write the results to standard output: No space left on "
+                        "device"});
+    }
+}
+
+#endif
+
+}  // namespace

@@ -1,0 +1,4 @@
+/// A library that is no plug-in: it lacks the export.
+extern "C" int notTheExport() {
+    return 1;
+}

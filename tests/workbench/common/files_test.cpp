@@ -1,0 +1,151 @@
+#include "workbench/common/files.hpp"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "tests/support/Process.hpp"
+#include "workbench/common/errors.hpp"
+
+#if !defined(_WIN32)
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
+#endif
+
+namespace {
+
+namespace fs = std::filesystem;
+using workbench::readFile;
+using workbench::WorkError;
+using workbench::writeFile;
+
+/// What the call's error says; empty if there is none.
+template <class Call>
+std::string errorOf(Call const& call) {
+    try {
+        call();
+        return {};
+    } catch (WorkError const& error) {
+        return error.what();
+    }
+}
+
+TEST(Files, BytesComeBackAsTheyWere) {
+    tests::TemporaryFolder const folder;
+    std::string bytes("\r\n\0\x1a\xff end", 9);
+    bytes.append(100'000, 'x');
+    writeFile(folder / "bytes", bytes);
+    EXPECT_EQ(readFile(folder / "bytes"), bytes);
+    writeFile(folder / "empty", "");
+    EXPECT_EQ(readFile(folder / "empty"), "");
+}
+
+TEST(Files, ANameMayHoldAnyLetter) {
+    tests::TemporaryFolder const folder;
+    std::string const name = "h\xc3\xb6he \xe6\xb7\xb1.txt";
+    writeFile(folder / name, "x");
+    EXPECT_EQ(readFile(folder / name), "x");
+    EXPECT_EQ(folder.names(), std::vector{name});
+}
+
+TEST(Files, WritingReplacesAndLeavesNothingBeside) {
+    tests::TemporaryFolder const folder;
+    writeFile(folder / "file", "old and longer");
+    writeFile(folder / "file", "new");
+    EXPECT_EQ(readFile(folder / "file"), "new");
+    EXPECT_EQ(folder.names(), std::vector<std::string>{"file"});
+}
+
+TEST(Files, WhatCannotBeReadIsNamedWithTheReason) {
+    tests::TemporaryFolder const folder;
+    fs::path const missing = folder / "missing";
+    EXPECT_EQ(errorOf([&] { readFile(missing); }),
+              "cannot read '" + missing.string() + "': No such file or directory");
+    EXPECT_EQ(errorOf([&] { readFile(folder.path()); }),
+              "cannot read '" + folder.path().string() + "': it is a folder");
+}
+
+TEST(Files, WhatCannotBeWrittenIsNamedWithTheReason) {
+    tests::TemporaryFolder const folder;
+    fs::path const nowhere = folder.path() / "no such folder" / "file";
+    EXPECT_EQ(errorOf([&] { writeFile(nowhere, "x"); }),
+              "cannot write '" + nowhere.string() + "': No such file or directory");
+    EXPECT_EQ(errorOf([&] { writeFile(folder.path(), "x"); }),
+              "cannot write '" + folder.path().string() + "': it is a folder");
+    EXPECT_EQ(folder.names(), std::vector<std::string>{});
+}
+
+TEST(Files, AFolderWhoseNameIsAFileIsNoPlaceToWrite) {
+    tests::TemporaryFolder const folder;
+    writeFile(folder / "file", "old");
+    EXPECT_NE(errorOf([&] { writeFile(folder.path() / "file" / "inner", "x"); }), "");
+    EXPECT_EQ(readFile(folder / "file"), "old");
+}
+
+#if !defined(_WIN32)
+
+/// Lets no file of this process grow beyond a size, for as long as it lives.
+class SizeLimit {
+public:
+    explicit SizeLimit(rlim_t bytes) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        rlimit const limit{bytes, before_.rlim_max};
+        handler_ = std::signal(SIGXFSZ, SIG_IGN);
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    SizeLimit(SizeLimit const&) = delete;
+    SizeLimit& operator=(SizeLimit const&) = delete;
+    ~SizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+
+private:
+    rlimit before_{};
+    void (*handler_)(int) = nullptr;
+};
+
+TEST(Files, AWriteThatEndsHalfwayHarmsNothing) {
+    tests::TemporaryFolder const folder;
+    fs::path const file = folder / "file";
+    writeFile(file, "old");
+    std::string error;
+    {
+        SizeLimit const limit(50'000);
+        error = errorOf([&] { writeFile(file, std::string(100'000, 'x')); });
+    }
+    EXPECT_EQ(error, "cannot write '" + file.string() + "': File too large");
+    EXPECT_EQ(readFile(file), "old");
+    EXPECT_EQ(folder.names(), std::vector<std::string>{"file"});
+}
+
+TEST(Files, ALinkStaysALink) {
+    tests::TemporaryFolder const folder;
+    writeFile(folder / "target", "old");
+    fs::create_symlink("target", folder / "link");
+    writeFile(folder / "link", "new");
+    EXPECT_TRUE(fs::is_symlink(folder / "link"));
+    EXPECT_EQ(readFile(folder / "target"), "new");
+}
+
+TEST(Files, AReplacedFileKeepsItsPermissions) {
+    tests::TemporaryFolder const folder;
+    writeFile(folder / "file", "old");
+    fs::permissions(folder / "file", fs::perms::owner_read | fs::perms::owner_write);
+    writeFile(folder / "file", "new");
+    EXPECT_EQ(fs::status(folder / "file").permissions(),
+              fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST(Files, ADeviceIsWrittenToAndNotReplaced) {
+    writeFile("/dev/null", "x");
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+    EXPECT_EQ(errorOf([&] { writeFile("/dev/full", "x"); }),
+              "cannot write '/dev/full': No space left on device");
+}
+
+#endif
+
+}  // namespace
