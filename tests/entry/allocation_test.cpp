@@ -1,0 +1,168 @@
+/// Every allocation of creation and update fails in turn: the exception passes
+/// out, nothing leaks, and the next call works.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <new>
+
+#include "runtime/lattice/Catalogue.hpp"
+#include "tests/entry/FailingAllocation.hpp"
+#include "tests/support/PluginTest.hpp"
+#include "tests/support/objects.hpp"
+
+namespace tests {
+namespace {
+
+using namespace Orlo;
+
+constexpr int MostPoints = 100000;
+
+struct Row {
+    std::string name;
+    Failing mode;
+};
+
+class Allocation : public PluginTest, public testing::WithParamInterface<Row> {
+protected:
+    /// Lets the n-th allocation of `call` fail, for every n; `prepare` stands
+    /// before each, `check` after it. Gives the number of points found.
+    int failEverywhere(std::function<void()> const& prepare, std::function<void()> const& call,
+                       std::function<void(bool failed)> const& check) const {
+        for (int n = 1; n < MostPoints; ++n) {
+            prepare();
+            bool failed = false, thrown = false;
+            {
+                FailingAllocation const failing(n, GetParam().mode);
+                try {
+                    call();
+                } catch (std::bad_alloc const&) {
+                    thrown = true;
+                }
+                failed = failing.hasFailed();
+            }
+            EXPECT_EQ(thrown, failed) << "the exception of allocation " << n << " passes out";
+            check(failed);
+            if (!failed)
+                return n - 1;
+        }
+        ADD_FAILURE() << "no end of allocations";
+        return 0;
+    }
+
+    static std::vector<std::string> keys() {
+        std::vector<std::string> found;
+        for (auto const& creator : catalogue())
+            found.push_back(creator->keyname("/"));
+        return found;
+    }
+
+    ObjectPtr object_;
+    PoolPtr pool_;
+
+    void TearDown() override { letGo(); }
+    void letGo() {
+        object_ = nullptr;
+        pool_ = nullptr;
+    }
+};
+
+TEST_P(Allocation, FailingInCreateLeavesNothingBehind) {
+    int points = 0;
+    for (std::string const& key : keys()) {
+        SCOPED_TRACE(key);
+        create(key, "warm-up", new VCreationPreferences("given"));
+        PreferencesPtr const given = new VCreationPreferences("given");
+        WeakCreatorPtr const creator = findCreator(key);
+        long before = 0;
+        points += failEverywhere([&] { before = liveAllocations(); },
+                                 [&] {
+                                     object_ = creator->create(
+                                         "a name that is too long to be stored in place",
+                                         Nucleo::Intercube(), given);
+                                 },
+                                 [&](bool failed) {
+                                     EXPECT_EQ(bool(object_), !failed);
+                                     object_ = nullptr;
+                                     EXPECT_EQ(liveAllocations(), before);
+                                     EXPECT_TRUE(creator->instances().empty());
+                                 });
+    }
+    std::printf("%d allocations failed in create\n", points);
+    EXPECT_GT(points, 0);
+}
+
+TEST_P(Allocation, FailingInTheFirstUpdateLeavesAnObjectThatUpdatesTheNextTime) {
+    int points = 0;
+    for (std::string const& key : keys()) {
+        SCOPED_TRACE(key);
+        update(*create(key), makePool());  // a warm-up
+        long before = 0;
+        points += failEverywhere(
+            [&] {
+                before = liveAllocations();
+                object_ = create(key);
+                pool_ = makePool();
+            },
+            [&] { forceUpdate(*object_, pool_); },
+            [&](bool) {
+                EXPECT_TRUE(update(*object_, pool_)) << "the next call works";
+                letGo();
+                EXPECT_EQ(liveAllocations(), before) << "nothing leaks";
+            });
+    }
+    std::printf("%d allocations failed in the first update\n", points);
+    EXPECT_GT(points, 0);
+}
+
+TEST_P(Allocation, FailingInALaterUpdateLeavesTheOldMapAsItWas) {
+    int points = 0;
+    for (std::string const& key : keys()) {
+        SCOPED_TRACE(key);
+        std::vector<rgba_float_t> colours(257);
+        ColormapPtr map;
+        long before = 0;
+        update(*create(key), makePool());  // a warm-up
+        points += failEverywhere(
+            [&] {
+                before = liveAllocations();
+                object_ = create(key);
+                pool_ = makePool();
+                map = update(*object_, pool_);
+                for (int i = 0; i <= 256; ++i)
+                    colours[static_cast<std::size_t>(i)] = map->getColor(i / 256.0);
+            },
+            [&] { forceUpdate(*object_, pool_); },
+            [&](bool failed) {
+                for (int i = 0; i <= 256; ++i)
+                    EXPECT_EQ(map->getColor(i / 256.0), colours[static_cast<std::size_t>(i)]);
+                if (failed) {
+                    EXPECT_EQ(mapOf(*object_, pool_).get(), map.get());
+                }
+                EXPECT_TRUE(forceUpdate(*object_, pool_)) << "the next call works";
+                map = nullptr;
+                letGo();
+                EXPECT_EQ(liveAllocations(), before) << "nothing leaks";
+            });
+    }
+    std::printf("%d allocations failed in a later update\n", points);
+    EXPECT_GT(points, 0);
+}
+
+TEST_P(Allocation, NeverHappensInALookup) {
+    for (std::string const& key : keys()) {
+        SCOPED_TRACE(key);
+        ColormapPtr const map = update(*create(key), makePool());
+        FailingAllocation const failing(1, GetParam().mode);
+        for (int i = -10; i <= 300; ++i)
+            map->getColor(i / 256.0);
+        EXPECT_FALSE(failing.hasFailed());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Modes, Allocation,
+                         testing::Values(Row{"Once", Failing::Once},
+                                         Row{"FromThenOn", Failing::FromThen}),
+                         [](auto const& row) { return row.param.name; });
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,294 @@
+/// Loading and unloading: the order of things, the host's answer, copies, and
+/// what is left behind.
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <memory>
+
+#include "host/creators/VActionNotifier.hpp"
+#include "host/creators/VCreatorBase.hpp"
+#include "runtime/lattice/Catalogue.hpp"
+#include "runtime/lattice/PluginReports.hpp"
+#include "runtime/lattice/TypeRegistry.hpp"
+#include "tests/support/DiagnosticText.hpp"
+#include "tests/support/Process.hpp"
+#include "tests/support/RecordingSpeaker.hpp"
+#include "tests/support/mapped.hpp"
+#include "tests/support/objects.hpp"
+#include "workbench/plugin/PluginFile.hpp"
+
+namespace tests {
+namespace {
+
+using namespace Orlo;
+using workbench::PluginFile;
+
+char const PluginName[] = "prism_tinctures.telm";
+
+std::unique_ptr<PluginFile> load(VInitialization& host) {
+    return std::make_unique<PluginFile>(workbench::pluginBesideProgram(), host);
+}
+
+std::vector<std::string> keys() {
+    std::vector<std::string> found;
+    for (auto const& creator : catalogue())
+        found.push_back(creator->keyname("/"));
+    return found;
+}
+
+class Loading : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(catalogue().empty());
+        takePluginReports();
+    }
+    void TearDown() override {
+        EXPECT_TRUE(catalogue().empty());
+        EXPECT_TRUE(inputCreators(typeid(ColormapPtr)).empty());
+        EXPECT_EQ(typeCreatorCount(), 0u);
+    }
+    VInitialization host_;
+};
+
+// --- Order
+
+TEST_F(Loading, FillsTheCatalogueBeforeTheAttachIsTold) {
+    auto const plugin = load(host_);
+    auto const reports = takePluginReports();
+    ASSERT_EQ(reports.size(), 1u);
+    EXPECT_EQ(reports[0].reason, VInitialization::ProcessAttach);
+    EXPECT_GT(catalogue().size(), 0u);
+    EXPECT_EQ(reports[0].creatorsStanding, catalogue().size());
+    EXPECT_EQ(inputCreators(typeid(ColormapPtr)).size(), catalogue().size());
+    EXPECT_GT(typeCreatorCount(), 0u) << "the value types follow the creators";
+}
+
+TEST_F(Loading, TellsTheDetachWhileAllCreatorsStand) {
+    auto plugin = load(host_);
+    std::size_t const standing = catalogue().size();
+    takePluginReports();
+    plugin.reset();
+    auto const reports = takePluginReports();
+    ASSERT_EQ(reports.size(), 1u);
+    EXPECT_EQ(reports[0].reason, VInitialization::ProcessDetach);
+    EXPECT_EQ(reports[0].creatorsStanding, standing);
+}
+
+TEST_F(Loading, SaysAtVerbosity100EachCreatorThenTheAttachThenTheDetachThenTheTeardown) {
+    DiagnosticText const text(100);
+    auto plugin = load(host_);
+    std::vector<std::string> expected, teardown;
+    for (auto const& creator : catalogue()) {
+        std::string const entry =
+            "(" + creator->keyname("/") + "," + std::to_string(creator->orderNumber()) + ")";
+        expected.push_back("VCreator::VCreator" + entry);
+        teardown.insert(teardown.begin(), "VCreatorBase::~VCreatorBase" + entry);
+    }
+    expected.emplace_back("VInitialization::initPlugin(0,prism_tinctures,TELM_API_VERSION)");
+    EXPECT_EQ(text.lines(), expected);
+    plugin.reset();
+    expected.emplace_back("VInitialization::initPlugin(1,prism_tinctures,TELM_API_VERSION)");
+    expected.insert(expected.end(), teardown.begin(), teardown.end());
+    EXPECT_EQ(text.lines(), expected);
+}
+
+TEST_F(Loading, RunsTheInitialiserOfTheElbeSchemeLast) {
+    auto const plugin = load(host_);
+    EXPECT_EQ(keys().back(), "Colormaps/TulElbeColorScheme");
+}
+
+TEST_F(Loading, IsUndoneInReverseTheElbeSchemeFirst) {
+    auto plugin = load(host_);
+    std::vector<void const*> blocks;
+    for (auto const& creator : catalogue())
+        blocks.push_back(creator.controlBlock());
+    RecordingSpeaker speaker;
+    {
+        Tracing const on;
+        plugin.reset();
+    }
+    std::vector<void const*> died;
+    for (PointerReport const& report : speaker.reports)
+        if (report.operation == "dies while counted" && std::ranges::count(blocks, report.block))
+            died.push_back(report.block);
+    std::ranges::reverse(blocks);
+    EXPECT_EQ(died, blocks);
+}
+
+TEST_F(Loading, LetsNoObjectSurvive) {
+    auto plugin = load(host_);
+    std::vector<ObjectPtr> objects;
+    for (std::string const& key : keys())
+        objects.push_back(create(key));
+    plugin.reset();
+    for (ObjectPtr const& object : objects)
+        EXPECT_FALSE(object) << "the holder finds its pointer empty";
+}
+
+TEST_F(Loading, RunsTheInitialisersAgainTheSecondTime) {
+    auto plugin = load(host_);
+    auto const first = keys();
+    plugin.reset();
+    EXPECT_FALSE(isMapped(PluginName));
+    plugin = load(host_);
+    EXPECT_EQ(keys(), first);
+    EXPECT_TRUE(isMapped(PluginName));
+}
+
+// --- The host's answer
+
+class HostAnswer : public Loading, public testing::WithParamInterface<int> {};
+
+TEST_P(HostAnswer, ComesBackThroughTheExportAsItIs) {
+    VInitialization host(GetParam());
+    EXPECT_EQ(load(host)->answer(), GetParam());
+    EXPECT_FALSE(isMapped(PluginName));
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, HostAnswer, testing::Values(1, 2, 42, 65536, 2147483647, -1),
+                         [](auto const& each) {
+                             return each.param < 0 ? std::string("minus")
+                                                   : std::to_string(each.param);
+                         });
+
+TEST_F(Loading, EndsAtOnceWhenTheHostRefuses) {
+    VInitialization refusing(VInitialization::Incompatible);
+    EXPECT_THROW(load(refusing), workbench::PluginError);
+    EXPECT_FALSE(isMapped(PluginName));
+    EXPECT_EQ(takePluginReports().size(), 2u) << "attached, and detached again";
+}
+
+TEST_F(Loading, PassesOneAndTheSameTokenToEveryQuestionAndReport) {
+    auto plugin = load(host_);
+    ASSERT_NE(host_.askedToken(), nullptr);
+    EXPECT_STREQ(host_.askedToken(), "TELM_API_VERSION");
+    auto const attach = takePluginReports();
+    ASSERT_EQ(attach.size(), 1u);
+    EXPECT_STREQ(attach[0].moduleName, "prism_tinctures");
+    EXPECT_EQ(static_cast<void const*>(attach[0].token), host_.askedToken());
+    plugin.reset();
+    auto const detach = takePluginReports();
+    ASSERT_EQ(detach.size(), 1u);
+    EXPECT_EQ(static_cast<void const*>(detach[0].moduleName), attach[0].moduleName);
+    EXPECT_EQ(static_cast<void const*>(detach[0].token), attach[0].token);
+}
+
+// --- A second copy
+
+/// Two files of the plug-in, both loaded.
+class SecondCopy : public Loading {
+protected:
+    class Listener : public VActionNotifier {
+    public:
+        void warned(std::string const& text) override { warnings.push_back(text); }
+        std::vector<std::string> warnings;
+    };
+
+    void SetUp() override {
+        Loading::SetUp();
+        std::filesystem::copy_file(workbench::pluginBesideProgram(), folder_ / "another.telm");
+        first_ = load(host_);
+        entries_ = keys();
+        testing::internal::CaptureStdout();
+        second_ = std::make_unique<PluginFile>(folder_ / "another.telm", host_);
+        printed_ = testing::internal::GetCapturedStdout();
+        std::erase(printed_, '\r');
+    }
+    void TearDown() override {
+        first_.reset();
+        second_.reset();
+        Loading::TearDown();
+    }
+
+    TemporaryFolder const folder_;
+    Listener listener_;
+    std::unique_ptr<PluginFile> first_, second_;
+    std::vector<std::string> entries_;
+    std::string printed_;
+};
+
+TEST_F(SecondCopy, LoadsThoughNoneOfItsCreatorsCanRegister) {
+    EXPECT_EQ(catalogue().size(), 2 * entries_.size());
+    EXPECT_EQ(inputCreators(typeid(ColormapPtr)).size(), entries_.size());
+    EXPECT_EQ(second_->answer(), VInitialization::Compatible);
+}
+
+TEST_F(SecondCopy, WarnsOnceForEachCreatorOnTheConsoleAndToTheUser) {
+    ASSERT_EQ(listener_.warnings.size(), entries_.size());
+    std::string console;
+    for (std::string const& warning : listener_.warnings) {
+        EXPECT_THAT(warning, testing::StartsWith("Could not register Orlo::VInputCreator<"));
+        EXPECT_THAT(warning, testing::EndsWith(
+                                 " as input creator for type Nucleo::StrongPtr<Orlo::Colormap, "
+                                 "Orlo::Colormap>!"));
+        console += "WARNING: " + warning + "\n";
+    }
+    EXPECT_EQ(printed_, console);
+}
+
+TEST_F(SecondCopy, UnloadedFirstLeavesTheFirstAsItWas) {
+    second_.reset();
+    EXPECT_FALSE(isMapped("another.telm"));
+    EXPECT_EQ(keys(), entries_);
+    EXPECT_EQ(inputCreators(typeid(ColormapPtr)).size(), entries_.size());
+    EXPECT_TRUE(update(*create(entries_.front()), makePool()));
+}
+
+TEST_F(SecondCopy, UnloadedLastStillWorksAlone) {
+    first_.reset();
+    EXPECT_FALSE(isMapped(PluginName));
+    EXPECT_EQ(keys(), entries_);
+    EXPECT_TRUE(inputCreators(typeid(ColormapPtr)).empty());
+    EXPECT_TRUE(update(*create(entries_.front()), makePool()));
+}
+
+TEST_F(SecondCopy, HasObjectsThatTheFirstOnesUnloadLeavesAlone) {
+    ObjectPtr const ofFirst = create(entries_.front());
+    WeakCreatorPtr const creator = catalogue().back();
+    ObjectPtr const ofSecond = creator->create("", Nucleo::Intercube(), nullptr);
+    first_.reset();
+    EXPECT_FALSE(ofFirst);
+    EXPECT_TRUE(ofSecond);
+}
+
+// --- Cycles
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr int Cycles = 200;  // each takes longer there
+#else
+constexpr int Cycles = 1000;
+#endif
+constexpr int WarmUp = 10;
+constexpr std::size_t MostGrowth = 1024;  // bytes in all
+
+/// One life of the plug-in: every entry makes an object and a map.
+void liveOnce(VInitialization& host) {
+    auto const plugin = load(host);
+    for (auto const& creator : catalogue())
+        update(*creator->create("", Nucleo::Intercube(), nullptr), makePool());
+}
+
+TEST_F(Loading, OverAndOverLeavesNothingBehind) {
+    std::size_t bytes = 0;
+    unsigned threadIndex = 0;
+    for (int i = 0; i < Cycles + WarmUp; ++i) {
+        if (i == WarmUp) {
+            bytes = heapBytes();
+            threadIndex = nextThreadIndex();
+        }
+        liveOnce(host_);
+        ASSERT_EQ(takePluginReports().size(), 2u) << "cycle " << i;
+        ASSERT_TRUE(catalogue().empty()) << "cycle " << i;
+        ASSERT_TRUE(inputCreators(typeid(ColormapPtr)).empty()) << "cycle " << i;
+        ASSERT_EQ(typeCreatorCount(), 0u) << "cycle " << i;
+        ASSERT_FALSE(isMapped(PluginName)) << "cycle " << i;
+    }
+    std::size_t const after = heapBytes();
+    std::printf("%d cycles: heap %+lld bytes\n", Cycles,
+                static_cast<long long>(after) - static_cast<long long>(bytes));
+    EXPECT_LE(after, bytes + MostGrowth);
+    EXPECT_EQ(nextThreadIndex(), threadIndex);
+}
+
+}  // namespace
+}  // namespace tests

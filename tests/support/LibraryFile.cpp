@@ -1,0 +1,137 @@
+#include "tests/support/LibraryFile.hpp"
+
+#include <cstdint>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+namespace tests {
+
+LibraryFile::LibraryFile(std::filesystem::path const& file) {
+    std::ifstream stream(file, std::ios::binary);
+    bytes_.assign(std::istreambuf_iterator<char>(stream), {});
+    if (bytes_.starts_with("\x7f"
+                           "ELF\x02\x01"))
+        readElf();
+    else if (bytes_.starts_with("MZ"))
+        readPe();
+    else
+        throw std::runtime_error(file.string() + " is no 64-bit library");
+}
+
+template <class Number>
+std::size_t LibraryFile::number(std::size_t offset) const {
+    Number value{};
+    if (offset > bytes_.size() || bytes_.size() - offset < sizeof value)
+        throw std::runtime_error("the library file ends too early");
+    std::memcpy(&value, bytes_.data() + offset, sizeof value);
+    return static_cast<std::size_t>(value);
+}
+
+std::string LibraryFile::text(std::size_t offset) const {
+    std::size_t const end = bytes_.find('\0', offset);
+    if (end == std::string::npos)
+        throw std::runtime_error("the library file ends within a text");
+    return bytes_.substr(offset, end - offset);
+}
+
+// --- ELF
+
+void LibraryFile::readElf() {
+    constexpr std::size_t DynamicSection = 6, DynamicSymbols = 11, NoBits = 8;
+    std::size_t const table = number<std::uint64_t>(0x28);
+    std::size_t const width = number<std::uint16_t>(0x3a), count = number<std::uint16_t>(0x3c);
+    auto const header = [&](std::size_t index) { return table + index * width; };
+    auto const offsetOf = [&](std::size_t index) {
+        return number<std::uint64_t>(header(index) + 0x18);
+    };
+    std::size_t const names = offsetOf(number<std::uint16_t>(0x3e));
+    for (std::size_t i = 0; i < count; ++i) {
+        std::size_t const type = number<std::uint32_t>(header(i) + 4);
+        std::size_t const size = number<std::uint64_t>(header(i) + 0x20);
+        std::size_t const texts = offsetOf(number<std::uint32_t>(header(i) + 0x28));
+        if (type != NoBits)
+            sections[text(names + number<std::uint32_t>(header(i)))] =
+                bytes_.substr(offsetOf(i), size);
+        if (type == DynamicSection)
+            readElfDynamic(offsetOf(i), size, texts);
+        if (type == DynamicSymbols)
+            readElfSymbols(offsetOf(i), size, texts);
+    }
+}
+
+void LibraryFile::readElfDynamic(std::size_t offset, std::size_t size, std::size_t names) {
+    constexpr std::size_t Needed = 1, RPath = 15, RunPath = 29;
+    for (std::size_t at = offset; at < offset + size; at += 16) {
+        std::size_t const tag = number<std::uint64_t>(at);
+        std::size_t const value = number<std::uint64_t>(at + 8);
+        if (tag == Needed)
+            libraries.push_back(text(names + value));
+        if (tag == RPath || tag == RunPath)
+            runPaths.push_back(text(names + value));
+    }
+}
+
+void LibraryFile::readElfSymbols(std::size_t offset, std::size_t size, std::size_t names) {
+    constexpr std::size_t UniqueBinding = 10;
+    for (std::size_t at = offset; at < offset + size; at += 24) {
+        std::string const name = text(names + number<std::uint32_t>(at));
+        std::size_t const binding = number<std::uint8_t>(at + 4) >> 4;
+        bool const defined = number<std::uint16_t>(at + 6) != 0;
+        if (defined && binding != 0)
+            exports.push_back(name);
+        if (defined && binding == UniqueBinding)
+            uniqueSymbols.push_back(name);
+    }
+    exportedFunctions = exports.size();
+}
+
+// --- PE
+
+void LibraryFile::readPe() {
+    std::size_t const start = number<std::uint32_t>(0x3c);
+    std::size_t const optional = start + 24;
+    if (text(start) != "PE" || number<std::uint16_t>(optional) != 0x20b)
+        throw std::runtime_error("the file is no 64-bit Windows library");
+    std::size_t const count = number<std::uint16_t>(start + 6);
+    std::size_t const table = optional + number<std::uint16_t>(start + 20);
+    for (std::size_t i = 0; i < count; ++i) {
+        std::size_t const header = table + 40 * i;
+        std::string const name(bytes_.substr(header, 8).c_str());
+        PeSection const section{number<std::uint32_t>(header + 12),
+                                number<std::uint32_t>(header + 16),
+                                number<std::uint32_t>(header + 20)};
+        peSections_.push_back(section);
+        sections[name] = bytes_.substr(section.offset, section.size);
+    }
+    readPeExports(number<std::uint32_t>(optional + 112));
+    readPeImports(number<std::uint32_t>(optional + 120));
+}
+
+std::size_t LibraryFile::peOffset(std::size_t rva) const {
+    for (PeSection const& section : peSections_)
+        if (rva >= section.rva && rva - section.rva < section.size)
+            return section.offset + (rva - section.rva);
+    throw std::runtime_error("the library file names a place that it does not have");
+}
+
+void LibraryFile::readPeExports(std::size_t rva) {
+    if (rva == 0)
+        return;
+    std::size_t const directory = peOffset(rva);
+    exportedFunctions = number<std::uint32_t>(directory + 20);
+    std::size_t const count = number<std::uint32_t>(directory + 24);
+    std::size_t const names = peOffset(number<std::uint32_t>(directory + 32));
+    for (std::size_t i = 0; i < count; ++i)
+        exports.push_back(text(peOffset(number<std::uint32_t>(names + 4 * i))));
+}
+
+void LibraryFile::readPeImports(std::size_t rva) {
+    if (rva == 0)
+        return;
+    for (std::size_t at = peOffset(rva); number<std::uint32_t>(at + 12) != 0; at += 20)
+        libraries.push_back(text(peOffset(number<std::uint32_t>(at + 12))));
+}
+
+}  // namespace tests

@@ -1,0 +1,45 @@
+/// What the file of a shared library says about itself.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace tests {
+
+/// The tables of a 64-bit ELF or PE library, read from the file. Throws
+/// `std::runtime_error` for a file that is neither.
+struct LibraryFile {
+    explicit LibraryFile(std::filesystem::path const& file);
+
+    std::vector<std::string> exports;             ///< names, in the order of the table
+    std::size_t exportedFunctions = 0;            ///< with those that have a number only
+    std::vector<std::string> libraries;           ///< the libraries that it imports from
+    std::vector<std::string> runPaths;            ///< where it looks for them (ELF)
+    std::vector<std::string> uniqueSymbols;       ///< names that would keep it loaded (ELF)
+    std::map<std::string, std::string> sections;  ///< contents by name
+
+private:
+    void readElf();
+    void readElfDynamic(std::size_t offset, std::size_t size, std::size_t names);
+    void readElfSymbols(std::size_t offset, std::size_t size, std::size_t names);
+    void readPe();
+    void readPeExports(std::size_t rva);
+    void readPeImports(std::size_t rva);
+    std::size_t peOffset(std::size_t rva) const;
+
+    template <class Number>
+    std::size_t number(std::size_t offset) const;
+    std::string text(std::size_t offset) const;
+
+    struct PeSection {
+        std::size_t rva, size, offset;
+    };
+
+    std::string bytes_;
+    std::vector<PeSection> peSections_;
+};
+
+}  // namespace tests
