@@ -20,11 +20,11 @@ namespace tests {
 struct CreatorRow {
     std::string category = "Colormaps";  ///< empty where the name holds the folder
     int order = 0;
-    std::vector<std::string> preferences;  ///< in alphabetical order; none: no set at all
+    std::vector<std::string> preferences = {};  ///< in alphabetical order; none: no set at all
     std::string todo = "todo";
-    std::string description;
-    std::string tags;
-    std::string source;
+    std::string description = {};
+    std::string tags = {};
+    std::string source = {};
     std::string date = "Mar 22 2024";
 };
 

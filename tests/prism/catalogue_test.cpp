@@ -25,9 +25,14 @@ std::vector<std::string> catalogueKeys() {
 TEST_F(Catalogue, HoldsTheEntriesInTheOrderOfTheirInitialisers) {
     EXPECT_THAT(
         catalogueKeys(),
-        testing::ElementsAre("Colormaps/BathymetricColors", "Colormaps/Hypsometric",
-                             "Colormaps/TopoBathy", "Colormaps/Topographic",
-                             "Colormaps/TulLassColorScheme", "Colormaps/TulElbeColorScheme"));
+        testing::ElementsAre(
+            "Colormaps/ZeroInfinity", "Colormaps/Zebramap", "Colormaps/RedGreen", "Colormaps/Muv",
+            "Colormaps/Colorramp", "Colormaps/Monochrome", "Colormaps/LogRedGreen", "Colormaps/Ort",
+            "Colormaps/Intensitymap", "Colormaps/BathymetricColors", "Colormaps/Hypsometric",
+            "Colormaps/TopoBathy", "Colormaps/Topographic", "Colormaps/HypoxiaLegend",
+            "Colormaps/Hypoxia", "Colormaps/Glow", "Colormaps/DopplerMap",
+            "Colormaps/MaxDistinguishableColors", "Colormaps/BigColorMap",
+            "Colormaps/TulLassColorScheme", "Colormaps/TulElbeColorScheme"));
 }
 
 TEST_F(Catalogue, HasEveryEntryDescribedOnce) {

@@ -1,0 +1,118 @@
+/// The three lines on black.
+#include <limits>
+
+#include "tests/prism/parameterRow.hpp"
+
+namespace tests {
+namespace {
+
+using Tessar::rgba_float_t;
+
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+
+rgba_float_t const Black{0, 0, 0, 1};
+
+DescribedMap const description{{
+    .name = "DopplerMap",
+    .creator = {.order = 0,
+                .preferences = {"doppler"},
+                .description = "",
+                .tags = "General;Tidewatch",
+                .source = "prism/tinctures/DopplerColors"},
+    .parameters = {parameter<double>("deviation", "0.5"), parameter<double>("lineintensity", "1"),
+                   parameter<double>("intensity", "1"), parameter<double>("linewidth", "2")},
+    .size = 256,
+    .cycle = {.publishesEarly = true, .ownMustUpdate = true, .change = {{"intensity", "0"}}},
+    .help = {},
+    .lookups =
+        {
+            {"zero is black", {}, 0, Black},
+            {"a tenth", {}, 0.1, {1.9976983, 0.9985335, 0.9985335, 1}},
+            {"a quarter is the red line", {}, 0.25, {1.9993682, 0.99936813, 0.99936813, 1}},
+            {"a half is the white line", {}, 0.5, {1, 1, 1, 1}},
+            {"three quarters is the blue line", {}, 0.75, {0.99936813, 0.99936813, 1.9993682, 1}},
+            {"nine tenths", {}, 0.9, {0.9985335, 0.9985335, 1.9976983, 1}},
+            {"254/255 is black", {}, 0.996078431372549, Black},
+            {"just below 254/255 is not",
+             {},
+             0.9960784313725488,
+             {0.99558884, 0.99558884, 1.9918072, 1}},
+            {"just above zero is not black", {}, 1e-300, {1.0662946, 0.5329788, 0.5329788, 1}},
+            {"one is black", {}, 1, Black},
+            {"below zero is black", {}, -0.25, Black},
+            {"above one is black", {}, 1.25, Black},
+            {"infinity is black", {}, Infinity, Black},
+            {"negative infinity is black", {}, -Infinity, Black},
+            {"no number runs through the formula",
+             {},
+             NotANumber,
+             {NotANumber, NotANumber, NotANumber, 1}},
+            {"sharp lines: a quarter",
+             {{"linewidth", "0.5"}},
+             0.25,
+             {1.0059658, 0.005965852, 0.005965852, 1}},
+            {"sharp lines: a half", {{"linewidth", "0.5"}}, 0.5, {1, 1, 1, 1}},
+            {"sharp lines: three quarters",
+             {{"linewidth", "0.5"}},
+             0.75,
+             {0.005965852, 0.005965852, 1.0059658, 1}},
+            {"endless width makes every power 1, also that of 0",
+             {{"linewidth", "1000"}},
+             0.25,
+             {2, 1, 2, 1}},
+            {"no white line leaves no green", {{"intensity", "0"}}, 0.25, {1, 0, 0, 1}},
+            {"no white line, upper half", {{"intensity", "0"}}, 0.6, {0, 0, 0.9991648, 1}},
+            {"bright lines",
+             {{"lineintensity", "3"}},
+             0.25,
+             {3.9993682, 0.99936813, 0.99936813, 1}},
+            {"greater deviation moves both lines up: red falls here",
+             {{"deviation", "0.8"}, {"linewidth", "0.5"}},
+             0.3,
+             {0.14229764, 0.022948122, 0.022948122, 1}},
+            {"greater deviation: the red line",
+             {{"deviation", "0.8"}},
+             0.4,
+             {1.9997965, 0.99979657, 0.99979657, 1}},
+            {"greater deviation: the blue line",
+             {{"deviation", "0.8"}, {"linewidth", "0.5"}},
+             0.6,
+             {0.19227661, 0.19227661, 1.1922766, 1}},
+            {"deviation 0: lower half",
+             {{"deviation", "0"}, {"linewidth", "0.5"}},
+             0.2,
+             {0.024095215, 0.0011470938, 0.0011470938, 1}},
+            {"deviation 0: upper half",
+             {{"deviation", "0"}, {"linewidth", "0.5"}},
+             0.9,
+             {6.843392e-06, 6.843392e-06, 0.19228347, 1}},
+            {"deviation 1: 0 by 0 in the blue tent counts as 1",
+             {{"deviation", "1"}},
+             0.5,
+             {2, 1, 2, 1}},
+            {"deviation 1: the lower half",
+             {{"deviation", "1"}, {"linewidth", "0.5"}},
+             0.4,
+             {0.38455322, 0.19227661, 0.19227661, 1}},
+            {"deviation below 0: lower half",
+             {{"deviation", "-0.5"}, {"linewidth", "0.5"}},
+             0.1,
+             {0.009618058, 6.843392e-06, 6.843392e-06, 1}},
+            {"deviation below 0: upper half",
+             {{"deviation", "-0.5"}, {"linewidth", "0.5"}},
+             0.9,
+             {6.843392e-06, 6.843392e-06, 0.009618058, 1}},
+            {"deviation above 1: lower half",
+             {{"deviation", "1.5"}, {"linewidth", "0.5"}},
+             0.4,
+             {0.20188783, 0.19227661, 0.38455322, 1}},
+            {"deviation above 1: upper half",
+             {{"deviation", "1.5"}, {"linewidth", "0.5"}},
+             0.9,
+             {6.843392e-06, 6.843392e-06, 7.185469e-06, 1}},
+        },
+}};
+
+}  // namespace
+}  // namespace tests
