@@ -268,6 +268,16 @@ void liveOnce(VInitialization& host) {
         update(*creator->create("", Nucleo::Intercube(), nullptr), makePool());
 }
 
+TEST(HeapBytes, SeeWhatIsAllocatedAndGivenBack) {
+    std::size_t const before = heapBytes();
+    auto block = std::make_unique<char[]>(5000);
+    block[0] = 1;
+    std::size_t const during = heapBytes();
+    block.reset();
+    EXPECT_GE(during, before + 5000);
+    EXPECT_LE(heapBytes(), before + 100);
+}
+
 TEST_F(Loading, OverAndOverLeavesNothingBehind) {
     std::size_t bytes = 0;
     unsigned threadIndex = 0;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 #include "host/values/VValue.hpp"
 #include "runtime/lattice/Catalogue.hpp"
@@ -126,8 +125,10 @@ Orlo::ObjectPtr Network::findObject(string const& name) const {
 }
 
 std::vector<string> Network::names() const {
-    auto const keys = std::views::keys(objects_);
-    return {keys.begin(), keys.end()};
+    std::vector<string> names;
+    for (auto const& [name, object] : objects_)
+        names.push_back(name);
+    return names;
 }
 
 std::vector<string> Network::viewers() const {

@@ -16,7 +16,7 @@ public:
     using HostObject::HostObject;
 
     bool update(VRequest& request, double) override {
-        chart_.publish(request.pool(), std::make_shared<Chart>(atlas_.read(request.pool())));
+        chart_.publish(request.pool(), std::make_shared<Chart>(Chart{atlas_.read(request.pool())}));
         return true;
     }
 

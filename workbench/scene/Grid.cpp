@@ -26,7 +26,8 @@ public:
         bool const found = bundle && bundle->hasGrid(wanted.name);
         if (bundle && !found)
             VActionNotifier::Warning(Name() + ": the bundle has no grid '" + wanted.name + "'");
-        grid_.publish(pool, found ? std::make_shared<NamedGrid>(bundle, wanted.name) : GridPtr());
+        grid_.publish(
+            pool, found ? std::make_shared<NamedGrid>(NamedGrid{bundle, wanted.name}) : GridPtr());
         return true;
     }
 

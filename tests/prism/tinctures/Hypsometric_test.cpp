@@ -1,10 +1,14 @@
 /// The four entries of elevation tints.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <atomic>
 #include <limits>
+#include <thread>
 
 #include "tests/prism/MapDescription.hpp"
 #include "tests/support/PluginTest.hpp"
+#include "tests/support/RecordingOutput.hpp"
 
 namespace tests {
 namespace {
@@ -138,6 +142,103 @@ DescribedMap const topoBathy{hypsometric(
 DescribedMap const topographic{hypsometric("Topographic", {"hypsometric", "topographic"},
                                            "Provides a color map with only hypsometric tints",
                                            "General;Tidewatch", landTints())};
+
+// --- What the four entries have in common
+
+class HypsometricFamily : public PluginTest {
+protected:
+    std::vector<std::string> const keys_{"Colormaps/BathymetricColors", "Colormaps/Hypsometric",
+                                         "Colormaps/TopoBathy", "Colormaps/Topographic"};
+};
+
+TEST_F(HypsometricFamily, StartsUpright) {
+    for (std::string const& key : keys_) {
+        Orlo::ColormapPtr const map = update(*create(key), makePool());
+        EXPECT_EQ(map->getColor(1.0), Tints[19]) << key;
+    }
+}
+
+TEST_F(HypsometricFamily, WithoutAChangeBuildsNoMapYetDrawsAndAgesAgain) {
+    for (std::string const& key : keys_) {
+        Orlo::ObjectPtr const object = create(key);
+        Orlo::PoolPtr const pool = makePool();
+        RecordingOutput output(*object, pool);
+        Orlo::ColormapPtr const first = update(*object, pool);
+        auto const age = first->age();
+        output.clear();
+        forceUpdate(*object, pool);
+        EXPECT_EQ(output.map().get(), first.get()) << key;
+        EXPECT_EQ(output.icons(), 1u) << key;
+        EXPECT_GT(first->age(), age) << key;
+    }
+}
+
+TEST_F(HypsometricFamily, TakesAMissingFlagForOff) {
+    for (std::string const& key : keys_) {
+        Orlo::ObjectPtr const object = create(key);
+        set(*object, "options", "");
+        EXPECT_EQ(update(*object, makePool())->getColor(1.0), Tints[19]) << key;
+    }
+}
+
+TEST_F(HypsometricFamily, GivesAlpha0AndARowOfTheTableForEveryScalar) {
+    for (std::string const& key : keys_) {
+        Orlo::ColormapPtr const map = update(*create(key), makePool());
+        for (int i = -3000; i <= 3000; ++i) {
+            Tessar::rgba_float_t const colour = map->getColor(i / 1000.0);
+            EXPECT_EQ(colour.alpha(), 0.0F);
+            EXPECT_NE(std::ranges::find(Tints, colour), Tints.end()) << "no interpolation";
+        }
+    }
+}
+
+TEST_F(HypsometricFamily, GivesTheSameColourWithinABand) {
+    Orlo::ColormapPtr const map = update(*create("Colormaps/Hypsometric"), makePool());
+    EXPECT_EQ(map->getColor(0.476), map->getColor(0.5));
+    EXPECT_EQ(map->getColor(0.5), map->getColor(0.524));
+}
+
+TEST_F(HypsometricFamily, MakesObjectsThatBehaveAlikeByThreeEntries) {
+    for (auto const& settings : {Off, Inverse}) {
+        std::vector<Orlo::ColormapPtr> maps;
+        for (std::size_t i = 0; i < 3; ++i) {
+            Orlo::ObjectPtr const object = create(keys_[i]);
+            set(*object, settings[0].name, settings[0].text);
+            maps.push_back(update(*object, makePool()));
+        }
+        for (int i = -100; i <= 1100; ++i)
+            for (Orlo::ColormapPtr const& map : maps)
+                EXPECT_EQ(map->getColor(i / 1000.0), maps[0]->getColor(i / 1000.0));
+    }
+}
+
+/// A published map never changes, so that readers need no lock while its object
+/// is updated.
+TEST_F(HypsometricFamily, AnswersReadersTheSameWhileTheirObjectIsUpdated) {
+    Orlo::ObjectPtr const object = create("Colormaps/Hypsometric");
+    Orlo::PoolPtr const pool = makePool();
+    Orlo::ColormapPtr const map = update(*object, pool);
+    std::atomic<bool> done{false};
+    std::atomic<int> wrong{0};
+    std::vector<std::thread> readers;
+    for (int i = 0; i < 3; ++i)
+        readers.emplace_back([&] {
+            Orlo::ColormapPtr const mine = map;
+            do {
+                for (std::size_t k = 0; k < Tints.size(); ++k)
+                    if (!(mine->getColor(static_cast<double>(k) / 20.0) == Tints[k]))
+                        ++wrong;
+            } while (!done);
+        });
+    for (int i = 0; i < 200; ++i) {
+        set(*object, "options", i % 2 == 0 ? " inverse" : " -inverse");
+        update(*object, pool);
+    }
+    done = true;
+    for (std::thread& reader : readers)
+        reader.join();
+    EXPECT_EQ(wrong, 0);
+}
 
 }  // namespace
 }  // namespace tests

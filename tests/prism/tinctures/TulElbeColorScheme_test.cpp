@@ -1,7 +1,11 @@
 /// The Elbe scheme of point classes.
+#include <gtest/gtest.h>
+
 #include <limits>
 
+#include "runtime/lattice/Catalogue.hpp"
 #include "tests/prism/MapDescription.hpp"
+#include "tests/support/PluginTest.hpp"
 
 namespace tests {
 namespace {
@@ -27,7 +31,7 @@ std::vector<Tessar::rgba_float_t> table() {
 Tessar::rgba_float_t const ClassZero{1, 0.51373, 0.06667, 0};
 Tessar::rgba_float_t const Empty{0, 0, 0, 0};
 
-DescribedMap const map{{
+DescribedMap const described{{
     .name = "TulElbeColorScheme",
     .creator = {.order = 0,
                 .preferences = {"LidarTul"},
@@ -55,6 +59,51 @@ DescribedMap const map{{
                    {"negative infinity is row 0", {}, -Infinity, ClassZero},
                },
 }};
+
+// --- What both schemes have in common
+
+class TulSchemes : public PluginTest {
+protected:
+    std::string const elbe_ = "Colormaps/TulElbeColorScheme";
+    std::string const lass_ = "Colormaps/TulLassColorScheme";
+};
+
+TEST_F(TulSchemes, KeepTheirMapOverTwoUpdatesWithALaterTimeStamp) {
+    for (std::string const& key : {elbe_, lass_}) {
+        Orlo::ObjectPtr const object = create(key);
+        Orlo::PoolPtr const pool = makePool();
+        forceUpdate(*object, pool);
+        Orlo::ColormapPtr const first = mapOf(*object, pool);
+        auto const age = first->age();
+        forceUpdate(*object, pool);
+        EXPECT_EQ(mapOf(*object, pool).get(), first.get());
+        EXPECT_GT(first->age(), age);
+    }
+}
+
+TEST_F(TulSchemes, BothCallThemselvesLassForEveryHelpType) {
+    for (std::string const& key : {elbe_, lass_})
+        for (int const type : {0, 1, 2, 3})
+            EXPECT_EQ(create(key)->help(static_cast<Orlo::VObject::HelpType>(type)),
+                      "TulLass Color Scheme");
+}
+
+TEST_F(TulSchemes, DifferInNothingButTableAndName) {
+    auto const elbe = Orlo::findCreator(elbe_), lass = Orlo::findCreator(lass_);
+    for (unsigned key = 0; key < Orlo::VCreatorPropertyElements::KeyCount; ++key) {
+        auto const which = static_cast<Orlo::VCreatorPropertyElements::Key>(key);
+        bool const named = key == Orlo::VCreatorPropertyElements::Name ||
+                           key == Orlo::VCreatorPropertyElements::Source;
+        EXPECT_EQ(elbe->get(which) != lass->get(which), named) << "key " << key;
+    }
+    EXPECT_EQ(elbe->orderNumber(), lass->orderNumber());
+    EXPECT_EQ(elbe->preferences()->words(), lass->preferences()->words());
+    Orlo::ObjectPtr const one = create(elbe_), other = create(lass_);
+    EXPECT_EQ(one->slots().size(), other->slots().size());
+    Orlo::ColormapPtr const map = update(*one, makePool()), second = update(*other, makePool());
+    EXPECT_EQ(map->getSize(), second->getSize());
+    EXPECT_FALSE(map->getColor(0) == second->getColor(0));
+}
 
 }  // namespace
 }  // namespace tests

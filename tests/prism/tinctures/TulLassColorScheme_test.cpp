@@ -43,7 +43,7 @@ std::vector<Tessar::rgba_float_t> table() {
 Tessar::rgba_float_t const ClassZero{0.60784, 0.7098, 0.70588, 0};
 Tessar::rgba_float_t const Empty{0, 0, 0, 0};
 
-DescribedMap const map{{
+DescribedMap const described{{
     .name = "TulLassColorScheme",
     .creator = {.order = 0,
                 .preferences = {"LidarTul"},
