@@ -11,18 +11,22 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID reserved) 
 
 #else
 
-#include <cstdlib>
-
 namespace {
 
+/// Tells of the detach when it dies.
+struct Detach {
+    ~Detach() { prism::entryRoutine(nullptr, prism::ProcessDetach, nullptr); }
+};
+
 /// This source is linked last, so that the attach follows all initialisers and
-/// the detach, as the exit function registered last, precedes all teardown: at
+/// the detach, as the static object made last, precedes all teardown: at
 /// `dlclose` and at the end of the process alike. The loader of this system
 /// tells nobody of threads.
 [[gnu::constructor]] void attach() {
     prism::entryRoutine(nullptr, prism::ProcessAttach, nullptr);
-    static_cast<void>(
-        std::atexit([] { prism::entryRoutine(nullptr, prism::ProcessDetach, nullptr); }));
+    // Not by std::atexit, which under the thread sanitizer is the program's and
+    // would call into the library after it has gone.
+    static Detach const atTheEnd;
 }
 
 }  // namespace

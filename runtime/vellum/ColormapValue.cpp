@@ -20,6 +20,36 @@ ValuePtr ColormapValue::copy() const {
     return new ColormapValue(map);
 }
 
+bool ColormapValue::assign(ValuePtr const& other) {
+    WeakPtr<VTypedValueBase<ColormapPtr>, VValueBase> const typed(other);
+    ColormapPtr map;
+    return typed && typed->getValue(map) && setValue(map);
+}
+
+bool ColormapValue::differs(ValuePtr const& other) const {
+    WeakPtr<VTypedValueBase<ColormapPtr>, VValueBase> const typed(other);
+    ColormapPtr ours, theirs;
+    getValue(ours);
+    return !typed || !typed->getValue(theirs) || !(theirs == ours);
+}
+
+bool ColormapValue::getValue(ColormapPtr& target) const {
+    ColormapPtr present;
+    {
+        std::scoped_lock const lock(mutex_);
+        VValue::getValue(present);
+    }
+    target = present;
+    return true;
+}
+
+bool ColormapValue::setValue(ColormapPtr const& source) {
+    ColormapPtr former;  // may die behind the lock
+    std::scoped_lock const lock(mutex_);
+    VValue::getValue(former);
+    return VValue::setValue(source);
+}
+
 Nucleo::Ageable* ColormapValue::ageable() {
     ColormapPtr map;
     getValue(map);

@@ -1,6 +1,8 @@
 /// Values that hold a colour map.
 #pragma once
 
+#include <mutex>
+
 #include "host/colormap/Colormap.hpp"
 #include "host/values/VValueParameter.hpp"
 
@@ -17,6 +19,9 @@ struct VELLUM_API VValueTrait<ColormapPtr> {
 
 /// The value of a colour-map output or input. Its age is that of the map, since
 /// maps are rewritten in place.
+///
+/// Threads: a consumer may read the value while an update puts another map in
+/// it, and gets the one or the other.
 class VELLUM_API ColormapValue : public VValue<ColormapPtr> {
 public:
     ColormapValue();
@@ -24,8 +29,15 @@ public:
     ~ColormapValue() override;
 
     ValuePtr copy() const override;
+    bool assign(ValuePtr const& other) override;
+    bool differs(ValuePtr const& other) const override;
+    bool getValue(ColormapPtr& target) const override;
+    bool setValue(ColormapPtr const& source) override;
     Nucleo::Ageable* ageable() override;
     Nucleo::Ageable const* ageable() const override;
+
+private:
+    mutable std::mutex mutex_;  ///< guards the pointer, not the map
 };
 
 /// A new parameter that holds a colour map, at first none.
