@@ -11,10 +11,6 @@
 
 namespace workbench {
 
-void PrintTo(UnreadableLine const& line, std::ostream* out) {
-    *out << line.reason;
-}
-
 namespace {
 
 using ::testing::HasSubstr;
@@ -25,6 +21,10 @@ struct GoodLine {
     char const* text;
     Meaning meaning;
 };
+
+void PrintTo(GoodLine const& line, std::ostream* out) {
+    *out << line.text;
+}
 
 class EachForm : public ::testing::TestWithParam<GoodLine> {};
 
@@ -89,6 +89,10 @@ struct BadLine {
     char const* text;
     char const* reason;
 };
+
+void PrintTo(BadLine const& line, std::ostream* out) {
+    *out << line.text;
+}
 
 class EachBadLine : public ::testing::TestWithParam<BadLine> {};
 
