@@ -17,7 +17,7 @@ public:
     /// A table in the order of picking. It never changes.
     class Ramp : public Colormap {
     public:
-        Ramp(int count, int steps, Enum illuminant, rgba_float_t background1,
+        Ramp(int count, int steps, Enum const& illuminant, rgba_float_t background1,
              rgba_float_t background2);
 
         int getMin() const override { return 0; }
@@ -82,8 +82,8 @@ RgbTriple widened(rgba_float_t const& color) {
     return {color.red(), color.green(), color.blue()};
 }
 
-ColorRampDistinguish::Ramp::Ramp(int count, int steps, Enum illuminant, rgba_float_t background1,
-                                 rgba_float_t background2)
+ColorRampDistinguish::Ramp::Ramp(int count, int steps, Enum const& illuminant,
+                                 rgba_float_t background1, rgba_float_t background2)
     : NumberOfColors(count),
       Colors(sizeUpTo(MostColors, count, "'Number of Colors' is greater than 16777216")) {
     sizeUpTo(MostSteps, steps, "'RGB Steps' is greater than 256");

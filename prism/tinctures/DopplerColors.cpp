@@ -17,7 +17,7 @@ public:
         int getMin() const override { return 0; }
         int getMax() const override { return 1; }
         int getSize() const override { return 256; }
-        rgba_float_t getColor(double value) const override;
+        rgba_float_t getColor(double t) const override;
         std::string getLabel() const override { return {}; }
         std::intptr_t getExtra() const override { return 0; }
 

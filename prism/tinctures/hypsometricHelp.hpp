@@ -10,8 +10,8 @@ namespace prism {
 /// A link, a long text with that link, or a short text. The blanks, the double
 /// ones included, are part of the texts.
 inline std::string hypsometricHelp(Orlo::VObject::HelpType type) {
-    std::string const link = "https://en.wikipedia.org/wiki/Hypsometric_tints";
-    std::string const shortText =
+    std::string link = "https://en.wikipedia.org/wiki/Hypsometric_tints";
+    std::string shortText =
         "A colormap specifically useful for Bathymetric and topographic displays, providing  "
         "bluish colors for low values and green/yellow/brownish tones for large values. ";
     switch (type) {
