@@ -7,6 +7,8 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "workbench/common/paths.hpp"
+
 #if defined(_WIN32)
 #include <windows.h>
 #else
@@ -20,6 +22,8 @@ extern char** environ;
 namespace tests {
 
 namespace fs = std::filesystem;
+using workbench::pathOf;
+using workbench::textOf;
 
 namespace {
 
@@ -71,7 +75,7 @@ int runToEnd(fs::path const& program, std::vector<std::string> const& arguments,
              Streams const& streams) {
     std::wstring line = quotedArgument(program.wstring());
     for (std::string const& argument : arguments)
-        line += L" " + quotedArgument(fs::path(argument).wstring());
+        line += L" " + quotedArgument(pathOf(argument).wstring());
     STARTUPINFOW start{};
     start.cb = sizeof start;
     start.dwFlags = STARTF_USESTDHANDLES;
@@ -84,7 +88,7 @@ int runToEnd(fs::path const& program, std::vector<std::string> const& arguments,
     for (HANDLE const handle : {start.hStdInput, start.hStdOutput, start.hStdError})
         CloseHandle(handle);
     if (!started)
-        throw std::runtime_error("cannot start " + program.string());
+        throw std::runtime_error("cannot start " + textOf(program));
     WaitForSingleObject(process.hProcess, INFINITE);
     DWORD status = 0;
     GetExitCodeProcess(process.hProcess, &status);
@@ -160,7 +164,7 @@ fs::path programBeside(std::string const& name) {
 TemporaryFolder::TemporaryFolder() {
     path_ = fs::temp_directory_path() / ("prism-test-" + std::to_string(std::random_device()()));
     if (!fs::create_directory(path_))
-        throw std::runtime_error("cannot make " + path_.string());
+        throw std::runtime_error("cannot make " + textOf(path_));
 }
 
 TemporaryFolder::~TemporaryFolder() {
@@ -168,10 +172,14 @@ TemporaryFolder::~TemporaryFolder() {
     fs::remove_all(path_, ignored);
 }
 
+fs::path TemporaryFolder::operator/(std::string const& name) const {
+    return path_ / pathOf(name);
+}
+
 std::vector<std::string> TemporaryFolder::names() const {
     std::vector<std::string> result;
     for (auto const& entry : fs::directory_iterator(path_))
-        result.push_back(entry.path().filename().string());
+        result.push_back(textOf(entry.path().filename()));
     std::ranges::sort(result);
     return result;
 }

@@ -41,7 +41,7 @@ public:
     ~TemporaryFolder();
 
     std::filesystem::path const& path() const noexcept { return path_; }
-    std::filesystem::path operator/(std::string const& name) const { return path_ / name; }
+    std::filesystem::path operator/(std::string const& name) const;
     /// The names of what is in it, in alphabetical order.
     std::vector<std::string> names() const;
 

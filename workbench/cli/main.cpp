@@ -10,6 +10,7 @@
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/common/nearest.hpp"
+#include "workbench/common/paths.hpp"
 
 namespace workbench {
 
@@ -39,10 +40,11 @@ std::string levelProblem(std::string const& text) {
 }
 
 void addCommonOptions(CLI::App& program, CommonOptions& common) {
+    auto const setPlugin = [&](std::string const& file) { common.plugin = pathOf(file); };
     program
-        .add_option("--plugin", common.plugin,
-                    "The plug-in to load, instead of the one beside "
-                    "the program")
+        .add_option_function<std::string>("--plugin", setPlugin,
+                                          "The plug-in to load, instead of the one beside "
+                                          "the program")
         ->type_name("FILE");
     program
         .add_option("--verbosity", common.verbosity,

@@ -2,6 +2,7 @@
 #include "workbench/cli/MapObject.hpp"
 #include "workbench/cli/commands.hpp"
 #include "workbench/cli/numbers.hpp"
+#include "workbench/common/paths.hpp"
 #include "workbench/picture/png.hpp"
 
 namespace workbench {
@@ -39,7 +40,7 @@ void run(CommonOptions const& common, Arguments const& given) {
     Size const size = readSize(given.size);
     Session const session(common);
     MapObject const subject(session, given.key, given.settings);
-    writePng(given.file, drawRamp(subject.map(), size));
+    writePng(pathOf(given.file), drawRamp(subject.map(), size));
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "workbench/common/files.hpp"
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/common/nearest.hpp"
+#include "workbench/common/paths.hpp"
 #include "workbench/network/Network.hpp"
 #include "workbench/picture/png.hpp"
 #include "workbench/scene/SceneCreators.hpp"
@@ -50,7 +51,7 @@ void checkArguments(Arguments const& given) {
 }
 
 Script readScript(std::string const& file) {
-    std::string const text = readFile(file);
+    std::string const text = readFile(pathOf(file));
     try {
         return Script::read(text);
     } catch (WorkError const& error) {
@@ -68,7 +69,7 @@ void applySetting(Network& network, std::string const& setting) {
 
 void report(std::string const& file, std::vector<Complaint> const& complaints) {
     for (std::size_t i = 0; i < complaints.size() && i < MostComplaints; ++i)
-        std::fprintf(stderr, "telmbench: %s\n", reportOf(file, complaints[i]).c_str());
+        std::fprintf(stderr, "telmbench: %s\n", reportOf(pathOf(file), complaints[i]).c_str());
     if (complaints.size() > MostComplaints)
         std::fprintf(stderr, "telmbench: %s: and %zu more like these\n", file.c_str(),
                      complaints.size() - MostComplaints);
@@ -100,9 +101,9 @@ void run(CommonOptions const& common, Arguments const& given) {
     for (std::string const& setting : given.settings)
         applySetting(network, setting);
     if (!given.picture.empty())
-        writePng(given.picture, draw(network, given.viewer));
+        writePng(pathOf(given.picture), draw(network, given.viewer));
     if (!given.saved.empty())
-        writeFile(given.saved, network.save());
+        writeFile(pathOf(given.saved), network.save());
     if (anyFailure(network.complaints()))
         throw WorkError("parts of " + inQuotes(given.network) +
                         " could not be carried out; all the rest was");

@@ -8,6 +8,7 @@
 
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
+#include "workbench/common/paths.hpp"
 
 namespace workbench {
 
@@ -16,7 +17,7 @@ namespace fs = std::filesystem;
 namespace {
 
 [[noreturn]] void fail(char const* what, fs::path const& file, std::string const& reason) {
-    throw WorkError(std::string("cannot ") + what + " " + inQuotes(file.string(), 1000) + ": " +
+    throw WorkError(std::string("cannot ") + what + " " + inQuotes(textOf(file), 1000) + ": " +
                     reason);
 }
 

@@ -3,11 +3,12 @@
 #include <algorithm>
 
 #include "workbench/common/inQuotes.hpp"
+#include "workbench/common/paths.hpp"
 
 namespace workbench {
 
 std::string reportOf(std::filesystem::path const& file, Complaint const& complaint) {
-    std::string const place = file.string() + ":" + std::to_string(complaint.line) + ": ";
+    std::string const place = textOf(file) + ":" + std::to_string(complaint.line) + ": ";
     std::string const text = complaint.text.empty() ? "" : inQuotes(complaint.text) + ": ";
     return place + text + complaint.reason;
 }

@@ -1,7 +1,9 @@
 #include "workbench/plugin/PluginFile.hpp"
 
 #include <array>
-#include <system_error>
+#include <string>
+
+#include "workbench/common/paths.hpp"
 
 #if defined(_WIN32)
 #include <windows.h>
@@ -22,8 +24,14 @@ void* openLibrary(std::filesystem::path const& file) {
     return LoadLibraryExW(file.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
 }
 
+/// In words of our own: those of the system depend on its language.
 std::string openError() {
-    return std::system_category().message(static_cast<int>(GetLastError()));
+    DWORD const error = GetLastError();
+    if (error == ERROR_BAD_EXE_FORMAT)
+        return "it is no 64-bit library of this system";
+    if (error == ERROR_MOD_NOT_FOUND)
+        return "a library that it needs is missing";
+    return "error " + std::to_string(error) + " of the system";
 }
 
 void* findSymbol(void* library, char const* name) {
@@ -68,7 +76,7 @@ std::filesystem::path programFile() {
 
 PluginFile::PluginFile(std::filesystem::path const& file, Orlo::VInitialization& host)
     : path_(std::filesystem::absolute(file)) {
-    std::string const name = "the plug-in '" + file.string() + "'";
+    std::string const name = "the plug-in '" + textOf(file) + "'";
     if (std::filesystem::is_directory(path_))
         throw PluginError(name + " is a folder; --plugin FILE names the library itself");
     if (!std::filesystem::is_regular_file(path_))

@@ -50,7 +50,7 @@ TEST(Arguments, APluginMayLieInAFolderWithAnyName) {
     for (char const* const name : {"libnucleo.so", "liblattice.so", "libquartz.so", "libvellum.so"})
         std::filesystem::create_symlink(fileBeside(name), deep / name);
 #endif
-    EXPECT_EQ(results({"--plugin", copy.string(), "lookup", "Hypsometric", "0"}),
+    EXPECT_EQ(results({"--plugin", textOf(copy), "lookup", "Hypsometric", "0"}),
               results({"lookup", "Hypsometric", "0"}));
 }
 

@@ -13,7 +13,7 @@ constexpr int WorkFailed = 1;
 constexpr int CallWrong = 2;
 
 #if defined(_WIN32)
-constexpr char NoLibraryAtAll[] = "Bad EXE format for";
+constexpr char NoLibraryAtAll[] = "it is no 64-bit library of this system";
 #else
 constexpr char NoLibraryAtAll[] = "{folder}/text.telm: file too short";
 #endif
@@ -205,12 +205,12 @@ std::string replaced(std::string text, std::string const& what, std::string cons
 
 template <std::size_t Count>
 void expectFailures(FailureCase const (&cases)[Count]) {
-    std::string const beside = programBeside("telmbench").parent_path().string();
+    std::string const beside = textOf(programBeside("telmbench").parent_path());
     for (FailureCase const& c : cases) {
         TemporaryFolder const folder;
         workbench::writeFile(folder / "text.telm", "no library\n");
         auto const filledIn = [&](std::string const& text) {
-            return replaced(replaced(text, "{folder}", folder.path().string()), "{beside}", beside);
+            return replaced(replaced(text, "{folder}", textOf(folder.path())), "{beside}", beside);
         };
         Lines arguments = c.arguments;
         std::ranges::transform(arguments, arguments.begin(), filledIn);

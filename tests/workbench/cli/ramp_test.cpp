@@ -12,7 +12,7 @@ using workbench::Rgba8;
 Image ramp(Lines arguments) {
     TemporaryFolder const folder;
     arguments.insert(arguments.begin(), "ramp");
-    arguments.insert(arguments.end(), {"-o", (folder / "ramp.png").string()});
+    arguments.insert(arguments.end(), {"-o", textOf(folder / "ramp.png")});
     EXPECT_EQ(results(arguments), Lines{});
     EXPECT_EQ(folder.names(), Lines{"ramp.png"});
     std::optional<Image> const image = readPng(workbench::readFile(folder / "ramp.png"));
@@ -57,7 +57,7 @@ TEST(Ramp, ParametersAreSetBefore) {
 TEST(Ramp, AnOldPictureIsReplaced) {
     TemporaryFolder const folder;
     workbench::writeFile(folder / "ramp.png", "old");
-    EXPECT_EQ(results({"ramp", "Hypsometric", "-o", (folder / "ramp.png").string()}), Lines{});
+    EXPECT_EQ(results({"ramp", "Hypsometric", "-o", textOf(folder / "ramp.png")}), Lines{});
     EXPECT_TRUE(readPng(workbench::readFile(folder / "ramp.png")));
     EXPECT_EQ(folder.names(), Lines{"ramp.png"});
 }
@@ -65,7 +65,7 @@ TEST(Ramp, AnOldPictureIsReplaced) {
 TEST(Ramp, AFileMayHaveAnyName) {
     TemporaryFolder const folder;
     std::string const name = "h\xc3\xb6he \xe6\xb7\xb1.png";
-    EXPECT_EQ(results({"ramp", "Hypsometric", "-o", (folder / name).string()}), Lines{});
+    EXPECT_EQ(results({"ramp", "Hypsometric", "-o", textOf(folder / name)}), Lines{});
     EXPECT_EQ(folder.names(), Lines{name});
 }
 

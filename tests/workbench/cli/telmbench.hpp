@@ -4,8 +4,11 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/Process.hpp"
+#include "workbench/common/paths.hpp"
 
 namespace tests {
+
+using workbench::textOf;
 
 inline ProcessResult telmbench(std::vector<std::string> const& arguments,
                                std::string const& input = {}) {
@@ -14,7 +17,7 @@ inline ProcessResult telmbench(std::vector<std::string> const& arguments,
 
 /// A file that lies beside the program, as an argument.
 inline std::string fileBeside(std::string const& name) {
-    return (programBeside("telmbench").parent_path() / name).string();
+    return textOf(programBeside("telmbench").parent_path() / name);
 }
 
 using Lines = std::vector<std::string>;

@@ -6,6 +6,7 @@
 
 #include "tests/support/Process.hpp"
 #include "workbench/common/errors.hpp"
+#include "workbench/common/paths.hpp"
 
 #if !defined(_WIN32)
 #include <sys/resource.h>
@@ -18,6 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using workbench::readFile;
+using workbench::textOf;
 using workbench::WorkError;
 using workbench::writeFile;
 
@@ -62,18 +64,18 @@ TEST(Files, WhatCannotBeReadIsNamedWithTheReason) {
     tests::TemporaryFolder const folder;
     fs::path const missing = folder / "missing";
     EXPECT_EQ(errorOf([&] { readFile(missing); }),
-              "cannot read '" + missing.string() + "': No such file or directory");
+              "cannot read '" + textOf(missing) + "': No such file or directory");
     EXPECT_EQ(errorOf([&] { readFile(folder.path()); }),
-              "cannot read '" + folder.path().string() + "': it is a folder");
+              "cannot read '" + textOf(folder.path()) + "': it is a folder");
 }
 
 TEST(Files, WhatCannotBeWrittenIsNamedWithTheReason) {
     tests::TemporaryFolder const folder;
     fs::path const nowhere = folder.path() / "no such folder" / "file";
     EXPECT_EQ(errorOf([&] { writeFile(nowhere, "x"); }),
-              "cannot write '" + nowhere.string() + "': No such file or directory");
+              "cannot write '" + textOf(nowhere) + "': No such file or directory");
     EXPECT_EQ(errorOf([&] { writeFile(folder.path(), "x"); }),
-              "cannot write '" + folder.path().string() + "': it is a folder");
+              "cannot write '" + textOf(folder.path()) + "': it is a folder");
     EXPECT_EQ(folder.names(), std::vector<std::string>{});
 }
 
@@ -116,7 +118,7 @@ TEST(Files, AWriteThatEndsHalfwayHarmsNothing) {
         SizeLimit const limit(50'000);
         error = errorOf([&] { writeFile(file, std::string(100'000, 'x')); });
     }
-    EXPECT_EQ(error, "cannot write '" + file.string() + "': File too large");
+    EXPECT_EQ(error, "cannot write '" + textOf(file) + "': File too large");
     EXPECT_EQ(readFile(file), "old");
     EXPECT_EQ(folder.names(), std::vector<std::string>{"file"});
 }
