@@ -116,7 +116,7 @@ void run(CommonOptions const& common, std::string const& folder) {
     std::vector<Exhibit> const exhibits = collect(common);
     makeFolder(folder);
     for (fs::path const& file : writeGallery(exhibits, folder))
-        output.write(file.string() + "\n");
+        output.write(fs::path(file).make_preferred().string() + "\n");
 }
 
 }  // namespace
