@@ -1,6 +1,7 @@
 /// `telmbench color`: data painted with a map.
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <functional>
 #include <limits>
 #include <optional>
