@@ -254,12 +254,16 @@ TEST_F(SecondCopy, HasObjectsThatTheFirstOnesUnloadLeavesAlone) {
 // --- Cycles
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr int Cycles = 200;  // each takes longer there
+// Each cycle takes longer there. The sanitizer enters an exit function of its
+// own beside each of ours and never takes it out again, so that the list of
+// exit functions grows; what we leak it reports by itself.
+constexpr int Cycles = 200;
+constexpr std::size_t MostGrowth = 4096 * Cycles;
 #else
 constexpr int Cycles = 1000;
+constexpr std::size_t MostGrowth = 1024;  // bytes in all
 #endif
 constexpr int WarmUp = 10;
-constexpr std::size_t MostGrowth = 1024;  // bytes in all
 
 /// One life of the plug-in: every entry makes an object and a map.
 void liveOnce(VInitialization& host) {

@@ -43,7 +43,8 @@ unsigned nextThreadIndex() {
 #include <fstream>
 
 #if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
+// The sanitizer's own count; not every compiler brings the header for it.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace tests {
