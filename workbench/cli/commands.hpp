@@ -18,6 +18,7 @@ struct CommonOptions {
 // `CallError`, or any other for work that failed.
 
 void addCatalogue(CLI::App& program, CommonOptions const& common);
+void addColor(CLI::App& program, CommonOptions const& common);
 void addDescribe(CLI::App& program, CommonOptions const& common);
 void addGallery(CLI::App& program, CommonOptions const& common);
 void addLookup(CLI::App& program, CommonOptions const& common);

@@ -60,7 +60,8 @@ void addCommonOptions(CLI::App& program, CommonOptions& common) {
 
 void addCommands(CLI::App& program, CommonOptions const& common) {
     program.require_subcommand(1);
-    for (auto* const add : {addCatalogue, addDescribe, addGallery, addLookup, addRamp, addRun})
+    for (auto* const add :
+         {addCatalogue, addColor, addDescribe, addGallery, addLookup, addRamp, addRun})
         add(program, common);
 }
 
