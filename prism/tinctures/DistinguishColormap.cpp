@@ -67,7 +67,7 @@ private:
 };
 
 /// What one map may hold and one grid may have: as many colours, and as many
-/// steps, as there are with 8 bits. A grid of 256 steps takes 1 GB for a while.
+/// steps, as there are with 8 bits. A grid of 256 steps takes half a gigabyte for a while.
 constexpr int MostColors = 256 * 256 * 256;
 constexpr int MostSteps = 256;
 
