@@ -76,8 +76,7 @@ std::vector<double> PlotScale::ticks() const {
     std::vector<double> ticks = logarithmic_ ? logarithmicTicks() : linearTicks();
     ticks.insert(ticks.end(), {0.0, 1.0});
     std::ranges::sort(ticks);
-    auto const rest = std::ranges::unique(ticks);
-    ticks.erase(rest.begin(), rest.end());
+    ticks.erase(std::unique(ticks.begin(), ticks.end()), ticks.end());
     return ticks;
 }
 
