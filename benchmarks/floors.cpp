@@ -21,4 +21,17 @@ std::unique_ptr<Lookup> makeTableLookup(Colors table) {
     return std::make_unique<TableLookup>(std::move(table));
 }
 
+namespace {
+
+class EmptyLookup : public Lookup {
+public:
+    Tessar::rgba_float_t getColor(double) const override { return {}; }
+};
+
+}  // namespace
+
+std::unique_ptr<Lookup> makeEmptyLookup() {
+    return std::make_unique<EmptyLookup>();
+}
+
 }  // namespace benchmarks

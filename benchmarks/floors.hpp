@@ -30,5 +30,7 @@ public:
 
 /// Made in another source, so that the compiler cannot see through the call.
 std::unique_ptr<Lookup> makeTableLookup(Colors table);
+/// Always the same colour: the call and nothing else.
+std::unique_ptr<Lookup> makeEmptyLookup();
 
 }  // namespace benchmarks

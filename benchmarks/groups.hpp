@@ -7,8 +7,9 @@
 
 namespace benchmarks {
 
-/// These two need the plug-in loaded while they are registered and run.
+/// These three need the plug-in loaded while they are registered and run.
 Group lookups();
+Group formulaLookups();
 std::vector<Group> updates();
 
 Group pointers();

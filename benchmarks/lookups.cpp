@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "benchmarks/floors.hpp"
+#include "benchmarks/formulas.hpp"
 #include "benchmarks/groups.hpp"
 #include "benchmarks/objects.hpp"
 
@@ -70,6 +71,23 @@ Group lookups() {
              {add("inlined " + key, [&t = *table, table](double value) { return row(t, value); }),
               add("virtual " + key,
                   [&c = *called, called](double value) { return c.getColor(value); })}});
+    }
+    return group;
+}
+
+Group formulaLookups() {
+    Group group{"One lookup of a formula map, random scalars",
+                {"its bare arithmetic", "an empty virtual call"},
+                {}};
+    std::shared_ptr<Lookup const> const empty = makeEmptyLookup();
+    std::string const call =
+        add("empty virtual", [&e = *empty, empty](double value) { return e.getColor(value); });
+    for (auto const& [key, formula] : formulas()) {
+        Orlo::ColormapPtr const map = update(*create(key), makePool());
+        group.rows.push_back({"`" + key + "`",
+                              add("formula map " + key,
+                                  [&m = *map, map](double value) { return m.getColor(value); }),
+                              {add("bare " + key, formula), call}});
     }
     return group;
 }

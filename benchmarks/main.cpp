@@ -38,6 +38,7 @@ int main(int argc, char** argv) {
         Orlo::VInitialization host;
         workbench::PluginFile const plugin(workbench::pluginBesideProgram(), host);
         groups.push_back(benchmarks::lookups());
+        groups.push_back(benchmarks::formulaLookups());
         std::ranges::copy(benchmarks::updates(), std::back_inserter(groups));
         groups.push_back(benchmarks::pointers());
         std::ranges::copy(benchmarks::distinctColors(), std::back_inserter(groups));
