@@ -1,11 +1,11 @@
 /// One object in two contexts, and maps that outlive their objects, on several
 /// threads.
 #include <atomic>
-#include <barrier>
 #include <thread>
 
 #include "tests/support/PluginTest.hpp"
 #include "tests/support/RecordingSpeaker.hpp"
+#include "tests/support/Rendezvous.hpp"
 #include "tests/threads/Alternation.hpp"
 
 namespace tests {
@@ -66,7 +66,7 @@ TEST_F(Pools, AndObjectsMayGoBeforeTheirMapsWhichDieOnAReader) {
 
 TEST_F(Pools, LetAMapGoOnceWhoeverIsLast) {
     RecordingSpeaker const speaker;
-    std::barrier together(2);
+    Rendezvous together(2);
     std::array<ColormapPtr, Rounds> first, second;
     std::vector<Nucleo::WeakPtr<Colormap, Colormap>> seen;
     for (unsigned i = 0; i < Rounds; ++i) {
@@ -75,7 +75,7 @@ TEST_F(Pools, LetAMapGoOnceWhoeverIsLast) {
     }
     auto const letGo = [&](std::array<ColormapPtr, Rounds>& maps) {
         for (ColormapPtr& map : maps) {
-            together.arrive_and_wait();
+            together.arriveAndWait();
             map = nullptr;
         }
     };
