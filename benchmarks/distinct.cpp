@@ -1,6 +1,6 @@
 /// The colours that are far apart, beside the plain form of their selection.
 #include "benchmarks/groups.hpp"
-#include "benchmarks/plainFarthestPoints.hpp"
+#include "prism/tinctures/science/plainFarthestPoints.hpp"
 
 namespace benchmarks {
 

@@ -2,10 +2,10 @@
 #include <cmath>
 
 #include "host/creators/VSource.hpp"
-#include "prism/tinctures/FarthestPoints.hpp"
-#include "prism/tinctures/LabColor.hpp"
+#include "prism/tinctures/science/FarthestPoints.hpp"
+#include "prism/tinctures/science/LabColor.hpp"
 #include "prism/tinctures/OutputMap.hpp"
-#include "prism/tinctures/vectorSize.hpp"
+#include "prism/tinctures/science/vectorSize.hpp"
 
 using namespace Orlo;
 using namespace prism;

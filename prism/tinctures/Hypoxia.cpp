@@ -2,7 +2,7 @@
 #include "host/creators/VSource.hpp"
 #include "prism/tinctures/OutputMap.hpp"
 #include "prism/tinctures/hypsometricHelp.hpp"
-#include "prism/tinctures/tableRule.hpp"
+#include "prism/tinctures/science/tableRule.hpp"
 
 using namespace Orlo;
 using namespace prism;

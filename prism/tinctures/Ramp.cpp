@@ -4,7 +4,7 @@
 #include "host/creators/VSource.hpp"
 #include "host/object/TimeDependent.hpp"
 #include "prism/tinctures/OutputMap.hpp"
-#include "prism/tinctures/tableRule.hpp"
+#include "prism/tinctures/science/tableRule.hpp"
 
 using namespace Orlo;
 using namespace prism;

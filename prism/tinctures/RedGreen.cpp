@@ -2,7 +2,7 @@
 /// end, towards the complement of its start colour.
 #include "host/creators/VSource.hpp"
 #include "prism/tinctures/OutputMap.hpp"
-#include "prism/tinctures/arithmetic.hpp"
+#include "prism/tinctures/science/arithmetic.hpp"
 
 using namespace Orlo;
 using namespace prism;

@@ -1,7 +1,7 @@
 /// Colours of point classes: the Elbe scheme.
 #include "host/creators/VSource.hpp"
 #include "prism/tinctures/OutputMap.hpp"
-#include "prism/tinctures/tableRule.hpp"
+#include "prism/tinctures/science/tableRule.hpp"
 
 using namespace Orlo;
 using namespace prism;

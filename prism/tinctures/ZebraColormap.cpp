@@ -4,7 +4,7 @@
 #include "host/creators/VSource.hpp"
 #include "host/object/TimeDependent.hpp"
 #include "prism/tinctures/OutputMap.hpp"
-#include "prism/tinctures/arithmetic.hpp"
+#include "prism/tinctures/science/arithmetic.hpp"
 
 using namespace Orlo;
 using namespace prism;

@@ -8,7 +8,7 @@
 /// whose greatest `nearest` is not above that bound has no point that the new
 /// colour could come nearer to, and the search for the farthest point of all is
 /// one over the blocks.
-#include "prism/tinctures/FarthestPoints.hpp"
+#include "prism/tinctures/science/FarthestPoints.hpp"
 
 #include <algorithm>
 #include <array>

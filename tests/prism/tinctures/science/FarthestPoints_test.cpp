@@ -1,13 +1,13 @@
 /// The choice of points that are far apart: the plain form by what it picks, the
 /// fast one by the plain one.
-#include "prism/tinctures/FarthestPoints.hpp"
+#include "prism/tinctures/science/FarthestPoints.hpp"
 
 #include <gmock/gmock.h>
 
 #include <limits>
 #include <random>
 
-#include "benchmarks/plainFarthestPoints.hpp"
+#include "prism/tinctures/science/plainFarthestPoints.hpp"
 
 namespace tests {
 namespace {

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "prism/tinctures/FarthestPoints.hpp"
+#include "prism/tinctures/science/FarthestPoints.hpp"
 
 namespace prism {
 

@@ -1,9 +1,9 @@
-#include "prism/tinctures/LabColor.hpp"
+#include "prism/tinctures/science/LabColor.hpp"
 
 #include <array>
 #include <cmath>
 
-#include "prism/tinctures/vectorSize.hpp"
+#include "prism/tinctures/science/vectorSize.hpp"
 
 namespace prism {
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "prism/tinctures/LabColor.hpp"
+#include "prism/tinctures/science/LabColor.hpp"
 
 namespace prism {
 

@@ -1,5 +1,5 @@
 /// The perceptual colour space.
-#include "prism/tinctures/LabColor.hpp"
+#include "prism/tinctures/science/LabColor.hpp"
 
 #include <gtest/gtest.h>
 
