@@ -2,9 +2,9 @@
 #include <cmath>
 
 #include "host/creators/VSource.hpp"
+#include "prism/tinctures/OutputMap.hpp"
 #include "prism/tinctures/science/FarthestPoints.hpp"
 #include "prism/tinctures/science/LabColor.hpp"
-#include "prism/tinctures/OutputMap.hpp"
 #include "prism/tinctures/science/vectorSize.hpp"
 
 using namespace Orlo;
