@@ -9,8 +9,7 @@ namespace Orlo {
 /// The minimum may be the greater one.
 class QUARTZ_API Range : public Nucleo::Functor {
 public:
-    explicit Range(double least = 0.0, double greatest = 1.0) noexcept
-        : minimum(least), maximum(greatest) {}
+    explicit Range(double min = 0.0, double max = 1.0) noexcept : minimum(min), maximum(max) {}
     Range(Range const&) = default;
     Range& operator=(Range const&) = default;
     ~Range() override;

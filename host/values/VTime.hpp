@@ -16,8 +16,8 @@ public:
     /// Time 0 in the range 0 to 1, step 0.
     VTime();
     /// Without a step.
-    VTime(double time, double first, double last);
-    VTime(double time, double first, double last, double stepWidth, std::string const& unitText,
+    VTime(double time, double min, double max);
+    VTime(double time, double min, double max, double stepWidth, std::string const& unitText,
           std::string const& formatText, std::string const& remarkText);
     ~VTime();
 

@@ -1,9 +1,6 @@
 #include "runtime/lattice/Diagnostics.hpp"
 
 #include <atomic>
-#include <cstdarg>
-
-#include "host/values/Vprintf.hpp"
 
 namespace Orlo {
 
@@ -26,14 +23,9 @@ void setDiagnosticOutput(std::FILE* file) {
     output = file;
 }
 
-void Vprintf(int messageLevel, char const* format, ...) {
-    if (level < messageLevel)
-        return;
+std::FILE* diagnosticOutput() {
     std::FILE* const file = output;
-    std::va_list arguments;
-    va_start(arguments, format);
-    std::vfprintf(file != nullptr ? file : stdout, format, arguments);
-    va_end(arguments);
+    return file != nullptr ? file : stdout;
 }
 
 }  // namespace Orlo

@@ -14,5 +14,6 @@ LATTICE_API int verbosity();
 /// Where `Vprintf` prints: at first standard output. Null restores that. The
 /// file stays the caller's and must outlive its use. [host]
 LATTICE_API void setDiagnosticOutput(std::FILE* file);
+LATTICE_API std::FILE* diagnosticOutput();
 
 }  // namespace Orlo

@@ -17,6 +17,10 @@ struct PluginReport {
     std::size_t creatorsStanding;  ///< entries in the catalogue at that moment
 };
 
+/// Notes a call for `takePluginReports`. [any]
+void noteReport(VInitialization::InitPluginReason reason, char const* moduleName,
+                char const* token);
+
 /// The reports since the last call, in their order. [any]
 LATTICE_API std::vector<PluginReport> takePluginReports();
 

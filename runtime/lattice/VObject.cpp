@@ -1,16 +1,8 @@
-/// Objects and the requests that run through them.
 #include "host/object/VObject.hpp"
 
 #include "host/creators/VCreatorBase.hpp"
 
 namespace Orlo {
-
-VManagedObject::VManagedObject(std::string const& name) : MutableName(name) {}
-VManagedObject::~VManagedObject() = default;
-
-StrongPtr<VManagedObject, VManagedObjectBase> VManagedObject::owner() const {
-    return nullptr;
-}
 
 VStateCreatorBase::~VStateCreatorBase() = default;
 
@@ -33,11 +25,6 @@ void VTraceRequestID::rememberRequest(VRequest const& request) {
 
 VAcceptInfo::VAcceptInfo(std::string nameOfSlot) : slotName(std::move(nameOfSlot)) {}
 VAcceptInfo::~VAcceptInfo() = default;
-
-VRequest::VRequest(PoolPtr const& valuePool) : values_(valuePool) {
-    static std::atomic<std::uint64_t> count{0};
-    id_ = ++count;
-}
 
 struct VObject::State {
     WeakCreatorPtr creator;

@@ -5,6 +5,7 @@
 #include <mutex>
 
 #include "runtime/vellum/ColormapValue.hpp"
+#include "runtime/vellum/quantize.hpp"
 
 namespace Orlo {
 
@@ -16,23 +17,19 @@ constexpr int IconHeight = 12;
 /// Drawn where a map answers with NaN: a magenta that no one takes for a tint.
 constexpr rgb8_t NoNumber{255, 0, 255};
 
-rgb8_t iconColour(Colormap const& map, int column) {
+rgb8_t iconColor(Colormap const& map, int column) {
     double const t = map.getMin() + (map.getMax() - map.getMin()) * (column + 0.5) / IconWidth;
-    auto const colour = map.getColor(t);
-    rgb8_t result;
-    for (std::size_t i = 0; i < result.size(); ++i) {
-        if (colour[i] != colour[i])
+    auto const color = map.getColor(t);
+    for (std::size_t i = 0; i < rgb8_t().size(); ++i)
+        if (color[i] != color[i])
             return NoNumber;
-        float const c = colour[i];
-        result[i] = static_cast<std::uint8_t>((c >= 1 ? 1.0 : c > 0 ? double{c} : 0.0) * 255 + 0.5);
-    }
-    return result;
+    return quantizedColor<rgb8_t>(color);
 }
 
-std::string hexadecimal(rgb8_t const& colour) {
+std::string hexadecimal(rgb8_t const& color) {
     constexpr char digits[] = "0123456789ABCDEF";
     std::string text = "#";
-    for (unsigned const component : colour) {
+    for (unsigned const component : color) {
         text += digits[component / 16];
         text += digits[component % 16];
     }
@@ -42,14 +39,14 @@ std::string hexadecimal(rgb8_t const& colour) {
 /// The map from left to right, as the text of an XPM image with a colour, and
 /// a character, for each column.
 std::string drawIcon(Colormap const& map) {
-    std::string colours, row;
+    std::string colors, row;
     for (int column = 0; column < IconWidth; ++column) {
         char const key = static_cast<char>('0' + column);
-        colours += std::string(1, key) + " c " + hexadecimal(iconColour(map, column)) + "\n";
+        colors += std::string(1, key) + " c " + hexadecimal(iconColor(map, column)) + "\n";
         row += key;
     }
     std::string image = std::to_string(IconWidth) + " " + std::to_string(IconHeight) + " " +
-                        std::to_string(IconWidth) + " 1\n" + colours;
+                        std::to_string(IconWidth) + " 1\n" + colors;
     for (int line = 0; line < IconHeight; ++line)
         image += row + "\n";
     return image;

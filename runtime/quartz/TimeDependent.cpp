@@ -1,29 +1,8 @@
-/// Ranges, times, and objects that depend on them.
 #include "host/object/TimeDependent.hpp"
+
 #include "host/values/TypedSlot.hpp"
 
 namespace Orlo {
-
-Range::~Range() = default;
-
-double Range::operator()(double t) const {
-    return (maximum - minimum) * t + minimum;
-}
-
-VTime::VTime() = default;
-VTime::VTime(double time, double first, double last) : value(time), minimum(first), maximum(last) {}
-VTime::VTime(double time, double first, double last, double stepWidth, std::string const& unitText,
-             std::string const& formatText, std::string const& remarkText)
-    : value(time),
-      minimum(first),
-      maximum(last),
-      step(stepWidth),
-      unit(unitText),
-      format(formatText),
-      remark(remarkText) {}
-VTime::~VTime() = default;
-VTime::VTime(VTime const&) = default;
-VTime& VTime::operator=(VTime const&) = default;
 
 namespace {
 

@@ -1,0 +1,7 @@
+#include "host/pointers/Functor.hpp"
+
+namespace Nucleo {
+
+Functor::~Functor() = default;
+
+}  // namespace Nucleo

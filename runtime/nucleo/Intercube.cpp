@@ -1,0 +1,7 @@
+#include "host/pointers/Intercube.hpp"
+
+namespace Nucleo {
+
+Intercube::~Intercube() = default;
+
+}  // namespace Nucleo

@@ -1,0 +1,7 @@
+#include "host/pointers/Interface.hpp"
+
+namespace Nucleo {
+
+InterfaceBase::~InterfaceBase() = default;
+
+}  // namespace Nucleo

@@ -1,0 +1,7 @@
+#include "host/pointers/StringList.hpp"
+
+namespace Nucleo {
+
+StringList::~StringList() = default;
+
+}  // namespace Nucleo
