@@ -6,7 +6,7 @@
 #include <thread>
 
 #include "benchmarks/groups.hpp"
-#include "workbench/plugin/PluginFile.hpp"
+#include "workbench/session/PluginFile.hpp"
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include "runtime/lattice/Catalogue.hpp"
 #include "tests/support/objects.hpp"
-#include "workbench/plugin/PluginFile.hpp"
+#include "workbench/session/PluginFile.hpp"
 
 namespace tests {
 namespace {

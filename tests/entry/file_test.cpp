@@ -5,7 +5,7 @@
 #include <cctype>
 
 #include "tests/support/LibraryFile.hpp"
-#include "workbench/plugin/PluginFile.hpp"
+#include "workbench/session/PluginFile.hpp"
 
 namespace tests {
 namespace {

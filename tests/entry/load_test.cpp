@@ -15,7 +15,7 @@
 #include "tests/support/RecordingSpeaker.hpp"
 #include "tests/support/mapped.hpp"
 #include "tests/support/objects.hpp"
-#include "workbench/plugin/PluginFile.hpp"
+#include "workbench/session/PluginFile.hpp"
 
 namespace tests {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "workbench/plugin/PluginFile.hpp"
+#include "workbench/session/PluginFile.hpp"
 
 namespace tests {
 

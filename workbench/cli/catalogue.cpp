@@ -1,10 +1,10 @@
 /// `telmbench catalogue`: what the plug-in can make.
 #include "runtime/quartz/text.hpp"
-#include "workbench/cli/Output.hpp"
-#include "workbench/cli/Session.hpp"
 #include "workbench/cli/commands.hpp"
 #include "workbench/cli/json.hpp"
 #include "workbench/cli/table.hpp"
+#include "workbench/platform/StandardOutput.hpp"
+#include "workbench/session/Session.hpp"
 
 namespace workbench {
 
@@ -78,15 +78,15 @@ std::string asText(Session const& session) {
     return text + std::to_string(count) + (count == 1 ? " entry\n" : " entries\n");
 }
 
-void run(CommonOptions const& common, bool json) {
-    Output output(json);
+void run(SessionOptions const& common, bool json) {
+    StandardOutput output(json);
     Session const session(common);
     output.write(json ? asJson(session) : asText(session));
 }
 
 }  // namespace
 
-void addCatalogue(CLI::App& program, CommonOptions const& common) {
+void addCatalogue(CLI::App& program, SessionOptions const& common) {
     CLI::App* const command = program.add_subcommand(
         "catalogue", "List the entries of the plug-in, in the order of their registration");
     auto const json = std::make_shared<bool>(false);

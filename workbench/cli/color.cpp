@@ -7,7 +7,6 @@
 #include <optional>
 #include <vector>
 
-#include "workbench/cli/MapObject.hpp"
 #include "workbench/cli/Progress.hpp"
 #include "workbench/cli/commands.hpp"
 #include "workbench/cli/numbers.hpp"
@@ -15,6 +14,7 @@
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/data/DataGrid.hpp"
 #include "workbench/picture/png.hpp"
+#include "workbench/session/MapObject.hpp"
 
 namespace workbench {
 
@@ -163,7 +163,7 @@ void checkSize(DataGrid const& grid, std::string const& name) {
                     "'gdal_translate -outsize 8192 0'");
 }
 
-void run(CommonOptions const& common, Arguments const& given) {
+void run(SessionOptions const& common, Arguments const& given) {
     std::optional<ValueRange> range;
     if (given.range)
         range = readRange(*given.range);
@@ -178,7 +178,7 @@ void run(CommonOptions const& common, Arguments const& given) {
 
 }  // namespace
 
-void addColor(CLI::App& program, CommonOptions const& common) {
+void addColor(CLI::App& program, SessionOptions const& common) {
     CLI::App* const command = program.add_subcommand("color", "Paint a grid of data with a map");
     auto const given = std::make_shared<Arguments>();
     command->add_option("KEY", given->key, "Full key, or name, of the entry")->required();

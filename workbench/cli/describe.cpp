@@ -1,10 +1,10 @@
 /// `telmbench describe`: one entry, its parameters and its help.
-#include "workbench/cli/MapObject.hpp"
-#include "workbench/cli/Output.hpp"
 #include "workbench/cli/commands.hpp"
 #include "workbench/cli/json.hpp"
 #include "workbench/cli/table.hpp"
-#include "workbench/common/ParameterFacts.hpp"
+#include "workbench/platform/StandardOutput.hpp"
+#include "workbench/session/MapObject.hpp"
+#include "workbench/session/ParameterFacts.hpp"
 
 namespace workbench {
 
@@ -90,8 +90,8 @@ std::string asText(MapObject const& subject) {
     return text;
 }
 
-void run(CommonOptions const& common, std::string const& key, bool json) {
-    Output output(json);
+void run(SessionOptions const& common, std::string const& key, bool json) {
+    StandardOutput output(json);
     Session const session(common);
     MapObject const subject(session, key);
     output.write(json ? asJson(subject) : asText(subject));
@@ -99,7 +99,7 @@ void run(CommonOptions const& common, std::string const& key, bool json) {
 
 }  // namespace
 
-void addDescribe(CLI::App& program, CommonOptions const& common) {
+void addDescribe(CLI::App& program, SessionOptions const& common) {
     struct Arguments {
         std::string key;
         bool json = false;

@@ -3,8 +3,6 @@
 #include <filesystem>
 
 #include "runtime/quartz/text.hpp"
-#include "workbench/cli/MapObject.hpp"
-#include "workbench/cli/Output.hpp"
 #include "workbench/cli/Progress.hpp"
 #include "workbench/cli/commands.hpp"
 #include "workbench/common/errors.hpp"
@@ -12,6 +10,8 @@
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/gallery/page.hpp"
 #include "workbench/picture/png.hpp"
+#include "workbench/platform/StandardOutput.hpp"
+#include "workbench/session/MapObject.hpp"
 
 namespace workbench {
 
@@ -74,7 +74,7 @@ Exhibit exhibitOf(Session const& session, VCreatorBase const& entry) {
 
 /// Looks everything up. The plug-in may write lines of its own meanwhile, so
 /// that there is no line of progress yet.
-std::vector<Exhibit> collect(CommonOptions const& common) {
+std::vector<Exhibit> collect(SessionOptions const& common) {
     Session const session(common);
     std::vector<Exhibit> exhibits;
     for (auto const& entry : session.entries())
@@ -109,10 +109,10 @@ std::vector<fs::path> writeGallery(std::vector<Exhibit> const& exhibits, fs::pat
     return files;
 }
 
-void run(CommonOptions const& common, std::string const& folder) {
+void run(SessionOptions const& common, std::string const& folder) {
     if (folder.empty())
         throw CallError("the folder to write has no name; -o DIR names it");
-    Output output(true);
+    StandardOutput output(true);
     std::vector<Exhibit> const exhibits = collect(common);
     makeFolder(folder);
     for (fs::path const& file : writeGallery(exhibits, folder))
@@ -121,7 +121,7 @@ void run(CommonOptions const& common, std::string const& folder) {
 
 }  // namespace
 
-void addGallery(CLI::App& program, CommonOptions const& common) {
+void addGallery(CLI::App& program, SessionOptions const& common) {
     CLI::App* const command = program.add_subcommand(
         "gallery", "Show all maps on one page, with their parameters, curves and pictures");
     auto const folder = std::make_shared<std::string>();

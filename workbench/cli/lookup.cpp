@@ -3,12 +3,12 @@
 #include <iterator>
 #include <sstream>
 
-#include "workbench/cli/MapObject.hpp"
-#include "workbench/cli/Output.hpp"
 #include "workbench/cli/commands.hpp"
 #include "workbench/cli/json.hpp"
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
+#include "workbench/platform/StandardOutput.hpp"
+#include "workbench/session/MapObject.hpp"
 
 namespace workbench {
 
@@ -90,8 +90,8 @@ std::string asJson(Orlo::Colormap const& map, std::vector<double> const& values)
     return jsonDocument(lookups);
 }
 
-void run(CommonOptions const& common, Arguments const& given) {
-    Output output(given.json);
+void run(SessionOptions const& common, Arguments const& given) {
+    StandardOutput output(given.json);
     Session const session(common);
     MapObject const subject(session, given.key, given.settings);
     std::vector<double> const values = readValues(given.values);
@@ -100,7 +100,7 @@ void run(CommonOptions const& common, Arguments const& given) {
 
 }  // namespace
 
-void addLookup(CLI::App& program, CommonOptions const& common) {
+void addLookup(CLI::App& program, SessionOptions const& common) {
     CLI::App* const command = program.add_subcommand("lookup", "Look up the colours of values");
     auto const given = std::make_shared<Arguments>();
     command->add_option("KEY", given->key, "Full key, or name, of the entry")->required();

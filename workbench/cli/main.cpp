@@ -4,13 +4,13 @@
 #include <new>
 
 #include "runtime/quartz/text.hpp"
-#include "workbench/cli/arguments.hpp"
 #include "workbench/cli/commands.hpp"
 #include "workbench/cli/numbers.hpp"
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/common/nearest.hpp"
 #include "workbench/common/paths.hpp"
+#include "workbench/platform/arguments.hpp"
 
 namespace workbench {
 
@@ -39,7 +39,7 @@ std::string levelProblem(std::string const& text) {
     return right ? "" : inQuotes(number) + " is no whole number from 0 to 1000";
 }
 
-void addCommonOptions(CLI::App& program, CommonOptions& common) {
+void addCommonOptions(CLI::App& program, SessionOptions& common) {
     auto const setPlugin = [&](std::string const& file) { common.plugin = pathOf(file); };
     program
         .add_option_function<std::string>("--plugin", setPlugin,
@@ -58,7 +58,7 @@ void addCommonOptions(CLI::App& program, CommonOptions& common) {
     program.set_version_flag("--version", "telmbench " PRISM_VERSION);
 }
 
-void addCommands(CLI::App& program, CommonOptions const& common) {
+void addCommands(CLI::App& program, SessionOptions const& common) {
     program.require_subcommand(1);
     for (auto* const add :
          {addCatalogue, addColor, addDescribe, addGallery, addLookup, addRamp, addRun})
@@ -127,7 +127,7 @@ std::string misuse(CLI::App const& program, CLI::ParseError const& error) {
 }
 
 int run(std::vector<std::string> const& arguments) {
-    CommonOptions common;
+    SessionOptions common;
     CLI::App program(Summary, "telmbench");
     program.allow_windows_style_options(false);  // a path may begin with a slash
     program.fallthrough();

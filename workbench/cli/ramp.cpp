@@ -1,9 +1,9 @@
 /// `telmbench ramp`: a whole map as a picture.
-#include "workbench/cli/MapObject.hpp"
 #include "workbench/cli/commands.hpp"
 #include "workbench/cli/numbers.hpp"
 #include "workbench/common/paths.hpp"
 #include "workbench/picture/png.hpp"
+#include "workbench/session/MapObject.hpp"
 
 namespace workbench {
 
@@ -36,7 +36,7 @@ Image drawRamp(Orlo::Colormap const& map, Size size) {
     return image;
 }
 
-void run(CommonOptions const& common, Arguments const& given) {
+void run(SessionOptions const& common, Arguments const& given) {
     Size const size = readSize(given.size);
     Session const session(common);
     MapObject const subject(session, given.key, given.settings);
@@ -45,7 +45,7 @@ void run(CommonOptions const& common, Arguments const& given) {
 
 }  // namespace
 
-void addRamp(CLI::App& program, CommonOptions const& common) {
+void addRamp(CLI::App& program, SessionOptions const& common) {
     CLI::App* const command = program.add_subcommand("ramp", "Draw a map as a PNG picture");
     auto const given = std::make_shared<Arguments>();
     command->add_option("KEY", given->key, "Full key, or name, of the entry")->required();

@@ -2,7 +2,6 @@
 #include <cstdio>
 
 #include "workbench/cli/Progress.hpp"
-#include "workbench/cli/Session.hpp"
 #include "workbench/cli/commands.hpp"
 #include "workbench/common/errors.hpp"
 #include "workbench/common/files.hpp"
@@ -10,9 +9,10 @@
 #include "workbench/common/nearest.hpp"
 #include "workbench/common/paths.hpp"
 #include "workbench/network/Network.hpp"
+#include "workbench/nodes/SceneCreators.hpp"
 #include "workbench/picture/png.hpp"
-#include "workbench/scene/SceneCreators.hpp"
 #include "workbench/scene/render.hpp"
+#include "workbench/session/Session.hpp"
 
 namespace workbench {
 
@@ -90,7 +90,7 @@ Image draw(Network& network, std::string const& viewer) {
     return render(*object, network.pool(viewer), [&](double part) { progress.show(part); });
 }
 
-void run(CommonOptions const& common, Arguments const& given) {
+void run(SessionOptions const& common, Arguments const& given) {
     checkArguments(given);
     Script const script = readScript(given.network);
     Session const session(common);
@@ -111,7 +111,7 @@ void run(CommonOptions const& common, Arguments const& given) {
 
 }  // namespace
 
-void addRun(CLI::App& program, CommonOptions const& common) {
+void addRun(CLI::App& program, SessionOptions const& common) {
     CLI::App* const command =
         program.add_subcommand("run", "Carry a saved network out, draw it, save it");
     auto const given = std::make_shared<Arguments>();

@@ -5,7 +5,7 @@
 #if PRISM_GDAL
 #include <dlfcn.h>
 
-#include "workbench/plugin/PluginFile.hpp"
+#include "workbench/session/PluginFile.hpp"
 #endif
 
 namespace workbench {

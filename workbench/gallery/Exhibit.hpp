@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "workbench/common/ParameterFacts.hpp"
 #include "workbench/gallery/Samples.hpp"
 #include "workbench/gallery/tellingSettings.hpp"
+#include "workbench/session/ParameterFacts.hpp"
 
 namespace workbench {
 

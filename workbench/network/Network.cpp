@@ -8,13 +8,13 @@
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/common/nearest.hpp"
-#include "workbench/common/parameters.hpp"
 #include "workbench/network/connect.hpp"
 #include "workbench/network/editScript.hpp"
-#include "workbench/scene/Keeper.hpp"
-#include "workbench/scene/hostObjects.hpp"
+#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/hostObjects.hpp"
+#include "workbench/nodes/values.hpp"
 #include "workbench/scene/render.hpp"
-#include "workbench/scene/values.hpp"
+#include "workbench/session/parameters.hpp"
 
 namespace workbench {
 

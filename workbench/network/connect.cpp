@@ -6,9 +6,9 @@
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/common/nearest.hpp"
-#include "workbench/common/parameters.hpp"
-#include "workbench/common/typeNames.hpp"
-#include "workbench/scene/Keeper.hpp"
+#include "workbench/nodes/Keeper.hpp"
+#include "workbench/session/parameters.hpp"
+#include "workbench/session/typeNames.hpp"
 
 namespace workbench {
 

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "workbench/scene/values.hpp"
+#include "workbench/nodes/values.hpp"
 
 namespace workbench {
 

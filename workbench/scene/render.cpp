@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "workbench/common/errors.hpp"
-#include "workbench/scene/Viewer.hpp"
+#include "workbench/nodes/Viewer.hpp"
 
 namespace workbench {
 

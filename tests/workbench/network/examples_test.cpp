@@ -9,7 +9,7 @@
 
 #include "workbench/common/files.hpp"
 #include "workbench/network/Script.hpp"
-#include "workbench/plugin/PluginFile.hpp"
+#include "workbench/session/PluginFile.hpp"
 
 namespace workbench {
 namespace {

@@ -7,7 +7,7 @@
 #include "tests/support/PluginTest.hpp"
 #include "workbench/common/errors.hpp"
 #include "workbench/common/files.hpp"
-#include "workbench/scene/SceneCreators.hpp"
+#include "workbench/nodes/SceneCreators.hpp"
 #include "workbench/scene/render.hpp"
 
 namespace workbench {

@@ -1,0 +1,47 @@
+/// Takes a grid out of a bundle.
+#include "host/values/TypedSlot.hpp"
+#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/Port.hpp"
+#include "workbench/nodes/kinds.hpp"
+#include "workbench/nodes/values.hpp"
+#include "workbench/scene/ScalarField.hpp"
+
+using namespace Orlo;
+
+namespace workbench {
+
+namespace {
+
+/// Provides the grid of the bundle at "spacetime" whose name is that of
+/// "gridname", before the at sign; nothing, and a warning, if there is none.
+class Grid : public SceneObject {
+public:
+    using SceneObject::SceneObject;
+
+    bool update(VRequest& request, double) override {
+        PoolPtr const& pool = request.pool();
+        BundlePtr const bundle = spacetime_.read(pool);
+        Identifier wanted;
+        gridname_.read(pool, wanted);
+        bool const found = bundle && bundle->hasGrid(wanted.name);
+        if (bundle && !found)
+            VActionNotifier::Warning(Name() + ": the bundle has no grid '" + wanted.name + "'");
+        grid_.publish(
+            pool, found ? std::make_shared<NamedGrid>(NamedGrid{bundle, wanted.name}) : GridPtr());
+        return true;
+    }
+
+private:
+    Input<BundlePtr> spacetime_{this, "spacetime"};
+    TypedSlot<Identifier> gridname_{
+        this, "gridname", {"AnalyticUniformGrid", "AnalyticUniformGrid"}, 0};
+    Output<GridPtr> grid_{this, "grid"};
+};
+
+}  // namespace
+
+Entry gridEntry() {
+    return makeEntry<Grid>("Strand", "Grid", "The grid of a bundle, by its name.");
+}
+
+}  // namespace workbench

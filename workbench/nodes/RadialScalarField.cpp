@@ -1,0 +1,125 @@
+/// A data set that is computed: one hill.
+#include <algorithm>
+
+#include "host/values/TypedSlot.hpp"
+#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/Port.hpp"
+#include "workbench/nodes/kinds.hpp"
+#include "workbench/scene/ScalarField.hpp"
+
+using namespace Orlo;
+
+namespace workbench {
+
+namespace {
+
+constexpr char const* GridName = "AnalyticUniformGrid";
+constexpr char const* FieldName = "radialfield";
+
+/// More samples than this would not fit into a texture.
+constexpr int MostSamples = 2048;
+
+/// The hill: `height` in the middle, level 0 at the edges of the middle plane
+/// and beyond, level and smooth at both. `age`, from 0 to 1, is how far it has
+/// sunk.
+///
+/// With u = r^2 / (2 halfEdge^2) it is height (1 - u)^2 / (1 + 8 age u), which
+/// takes no operation that depends on the system.
+class Hill : public ScalarField {
+public:
+    Hill(UniformGrid const& grid, double height, double age)
+        : ScalarField(grid), height_(height), age_(age) {}
+
+    double sample(int i, int j, int k) const override {
+        double const u = (square(i) + square(j) + square(k)) / 2.0;
+        double const rest = u < 1.0 ? 1.0 - u : 0.0;
+        return height_ * rest * rest / (1.0 + 8.0 * age_ * u);
+    }
+
+private:
+    /// The square of a coordinate, in half edges.
+    double square(int index) const {
+        double const x = grid().coordinate(index) / grid().halfEdge;
+        return x * x;
+    }
+
+    double height_;
+    double age_;
+};
+
+/// The hill over time: in `steps` equal steps from time 0 to `last` it sinks;
+/// before and after it rests. A time between two steps shows the nearer one.
+class HillBundle : public Bundle {
+public:
+    HillBundle(UniformGrid const& grid, int steps, double last, double height)
+        : grid_(grid), steps_(steps), last_(last), height_(height) {}
+
+    bool hasGrid(std::string const& grid) const override { return grid == GridName; }
+
+    FieldPtr field(std::string const& grid, std::string const& name, double time) const override {
+        if (grid != GridName || name != FieldName)
+            return nullptr;
+        return std::make_shared<Hill>(grid_, height_, age(time));
+    }
+
+private:
+    double age(double time) const {
+        if (steps_ < 1 || !(last_ > 0) || !(time > 0))
+            return 0.0;
+        double const part = time < last_ ? time / last_ : 1.0;
+        return static_cast<int>(part * steps_ + 0.5) / static_cast<double>(steps_);
+    }
+
+    UniformGrid grid_;
+    int steps_;
+    double last_;
+    double height_;
+};
+
+/// | parameter   | meaning                                                       |
+/// |-------------|---------------------------------------------------------------|
+/// | "gridsize"  | samples in each direction, 2 to 2048                          |
+/// | "size"      | half an edge of the cube, above 0, in the units of the camera |
+/// | "timesteps" | steps from time 0 to "tmax"; below 1 the hill never sinks     |
+/// | "tmax"      | the time at which the hill has sunk                           |
+/// | "a"         | the height of the hill                                        |
+///
+/// Numbers outside their range count as the nearest inside; a size that is none
+/// counts as 1.
+class RadialScalarField : public SceneObject {
+public:
+    using SceneObject::SceneObject;
+
+    bool update(VRequest& request, double) override {
+        PoolPtr const& pool = request.pool();
+        int samples = 2, steps = 0;
+        double halfEdge = 1, last = 1, height = 1;
+        gridsize_.read(pool, samples);
+        size_.read(pool, halfEdge);
+        timesteps_.read(pool, steps);
+        tmax_.read(pool, last);
+        a_.read(pool, height);
+        UniformGrid const grid{std::clamp(samples, 2, MostSamples),
+                               halfEdge > 0 && halfEdge < 1e100 ? halfEdge : 1.0};
+        bundle_.publish(pool, std::make_shared<HillBundle>(grid, steps, last, height));
+        return true;
+    }
+
+private:
+    TypedSlot<int> gridsize_{this, "gridsize", 32, 0};
+    TypedSlot<double> size_{this, "size", 1.0, 0};
+    TypedSlot<int> timesteps_{this, "timesteps", 10, 0};
+    TypedSlot<double> tmax_{this, "tmax", 1.0, 0};
+    TypedSlot<double> a_{this, "a", 1.0, 0};
+    Output<BundlePtr> bundle_{this, "bundle"};
+};
+
+}  // namespace
+
+Entry radialScalarFieldEntry() {
+    return makeEntry<RadialScalarField>(
+        "CreateBundle", "RadialScalarField",
+        "A data set with one scalar field, a hill that sinks with time.");
+}
+
+}  // namespace workbench

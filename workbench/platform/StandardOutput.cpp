@@ -1,0 +1,64 @@
+#include "workbench/platform/StandardOutput.hpp"
+
+#include <cerrno>
+#include <string>
+#include <system_error>
+
+#include "workbench/common/errors.hpp"
+
+#if defined(_WIN32)
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace workbench {
+
+namespace {
+
+constexpr int OutputDescriptor = 1;
+constexpr int ErrorDescriptor = 2;
+
+#if defined(_WIN32)
+constexpr auto* duplicate = _dup;
+constexpr auto* duplicateTo = _dup2;
+constexpr auto* openDescriptor = _fdopen;
+#else
+constexpr auto* duplicate = dup;
+constexpr auto* duplicateTo = dup2;
+constexpr auto* openDescriptor = fdopen;
+#endif
+
+[[noreturn]] void fail() {
+    throw WorkError("cannot write the results to standard output: " +
+                    std::generic_category().message(errno));
+}
+
+}  // namespace
+
+StandardOutput::StandardOutput(bool apart) {
+    if (!apart)
+        return;
+    std::fflush(stdout);
+    int const real = duplicate(OutputDescriptor);
+    apart_ = real >= 0 ? openDescriptor(real, "w") : nullptr;
+    if (apart_ == nullptr || duplicateTo(ErrorDescriptor, OutputDescriptor) < 0)
+        fail();
+}
+
+StandardOutput::~StandardOutput() {
+    std::fflush(stdout);
+    if (apart_ == nullptr)
+        return;
+    duplicateTo(fileno(apart_), OutputDescriptor);
+    std::fclose(apart_);
+}
+
+void StandardOutput::write(std::string_view text) {
+    std::FILE* const target = apart_ != nullptr ? apart_ : stdout;
+    std::size_t const written = std::fwrite(text.data(), 1, text.size(), target);
+    if (written != text.size() || std::fflush(target) != 0)
+        fail();
+}
+
+}  // namespace workbench

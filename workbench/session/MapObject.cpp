@@ -1,0 +1,44 @@
+#include "workbench/session/MapObject.hpp"
+
+#include "workbench/common/errors.hpp"
+#include "workbench/common/inQuotes.hpp"
+#include "workbench/session/parameters.hpp"
+
+namespace workbench {
+
+namespace {
+
+void applySetting(Orlo::VObject& object, std::string const& setting) {
+    std::size_t const sign = setting.find('=');
+    if (sign == std::string::npos)
+        throw CallError("the setting " + inQuotes(setting) + " is not of the form NAME=TEXT");
+    setParameter(object, setting.substr(0, sign), setting.substr(sign + 1));
+}
+
+/// The map in the first output that holds one; empty if none does.
+Orlo::ColormapPtr publishedMap(Orlo::VObject const& object, Orlo::PoolPtr const& pool) {
+    Orlo::ColormapPtr map;
+    for (Orlo::SlotPtr const& slot : object.slots())
+        if (!slot->isInput() && Orlo::readParameter(*slot->parameter(), pool, map) && map)
+            return map;
+    return {};
+}
+
+}  // namespace
+
+MapObject::MapObject(Session const& session, std::string const& key,
+                     std::vector<std::string> const& settings)
+    : pool_(new Orlo::ValuePool("telmbench")) {
+    Orlo::WeakCreatorPtr const entry = session.find(key);
+    key_ = entry->keyname("/");
+    object_ = entry->create("", Nucleo::Intercube(), nullptr);
+    for (std::string const& setting : settings)
+        applySetting(*object_, setting);
+    Orlo::VRequest request(pool_);
+    object_->request(request, 0, nullptr, nullptr);
+    map_ = publishedMap(*object_, pool_);
+    if (!map_)
+        throw WorkError("the entry " + inQuotes(key_) + " publishes no colour map");
+}
+
+}  // namespace workbench

@@ -1,0 +1,56 @@
+#include "workbench/session/Session.hpp"
+
+#include <cstdio>
+
+#include "runtime/lattice/Diagnostics.hpp"
+#include "workbench/common/errors.hpp"
+#include "workbench/common/inQuotes.hpp"
+#include "workbench/common/nearest.hpp"
+
+namespace workbench {
+
+namespace {
+
+/// The host as the options want it, once its messages go where they should.
+Orlo::VInitialization hostFor(SessionOptions const& options) {
+    Orlo::setDiagnosticOutput(stderr);
+    Orlo::setVerbosity(options.verbosity);
+    return options.refuse ? Orlo::VInitialization(Orlo::VInitialization::Incompatible)
+                          : Orlo::VInitialization();
+}
+
+/// The entries that were registered behind the first ones.
+std::vector<Orlo::WeakCreatorPtr> entriesFrom(std::size_t first) {
+    std::vector<Orlo::WeakCreatorPtr> all = Orlo::catalogue();
+    all.erase(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(first));
+    return all;
+}
+
+std::string withoutFolder(std::string const& key) {
+    return key.substr(key.rfind('/') + 1);
+}
+
+}  // namespace
+
+Session::Session(SessionOptions const& options)
+    : host_(hostFor(options)),
+      before_(Orlo::catalogue().size()),
+      plugin_(options.plugin.empty() ? pluginBesideProgram() : options.plugin, host_),
+      entries_(entriesFrom(before_)) {}
+
+Orlo::WeakCreatorPtr Session::find(std::string const& key) const {
+    for (auto const& entry : entries_)
+        if (entry->keyname("/") == key)
+            return entry;
+    for (auto const& entry : entries_)
+        if (withoutFolder(entry->keyname("/")) == key)
+            return entry;
+    bool const full = key.find('/') != std::string::npos;
+    std::vector<std::string> names;
+    for (auto const& entry : entries_)
+        names.push_back(full ? entry->keyname("/") : withoutFolder(entry->keyname("/")));
+    throw CallError("there is no entry " + inQuotes(key) +
+                    suggestion(key, names, "; 'telmbench catalogue' lists them"));
+}
+
+}  // namespace workbench
