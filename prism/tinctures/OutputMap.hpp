@@ -1,6 +1,8 @@
 /// The steps of which the updates of all colour-map objects are made.
 #pragma once
 
+#include <typeinfo>
+
 #include "host/object/Tincture.hpp"
 #include "host/values/TypedSlot.hpp"
 
@@ -40,9 +42,14 @@ public:
     }
 
     /// The map as this object's own class, or null if it is another object's.
+    ///
+    /// Compared by address, which each source's class has for itself. Classes of
+    /// several sources have one name, and some compilers' `dynamic_cast` compares
+    /// nothing but the names.
     template <class Own>
     Own* as() const {
-        return dynamic_cast<Own*>(map_.get());
+        Orlo::Colormap* const map = map_.get();
+        return map != nullptr && &typeid(*map) == &typeid(Own) ? static_cast<Own*>(map) : nullptr;
     }
 
     /// Reads a parameter; a slot without a value leaves the field as it was.
