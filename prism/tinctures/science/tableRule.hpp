@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <limits>
+#include <type_traits>
 #include <utility>
 
 #if defined(__SSE2__)
@@ -20,19 +21,23 @@ template <std::size_t N>
 using ColorTable = std::array<Tessar::rgba_float_t, N>;
 
 /// Truncates towards zero. A number that fits no 32-bit integer, NaN included,
-/// gives the most negative one.
-inline std::int32_t truncated(double x) noexcept {
+/// gives the most negative one, also where the compiler knows the number.
+constexpr std::int32_t truncated(double x) noexcept {
 #if defined(__SSE2__)
-    return _mm_cvttsd_si32(_mm_set_sd(x));  // defined so for every input, without a branch
-#else
+    if (!std::is_constant_evaluated()) {
+        // One instruction, which answers so for every input. The compiler must not
+        // see a constant in it: gcc would fold infinity and NaN otherwise.
+        asm("" : "+x"(x));
+        return _mm_cvttsd_si32(_mm_set_sd(x));
+    }
+#endif
     return x > -2147483649.0 && x < 2147483648.0 ? static_cast<std::int32_t>(x)
                                                  : std::numeric_limits<std::int32_t>::min();
-#endif
 }
 
 /// The row of the truncated number, limited to the table.
 template <std::size_t N>
-Tessar::rgba_float_t const& rowAt(ColorTable<N> const& table, double x) noexcept {
+constexpr Tessar::rgba_float_t const& rowAt(ColorTable<N> const& table, double x) noexcept {
     constexpr auto last = static_cast<std::int32_t>(N - 1);
     std::int32_t row = truncated(x);
     row = row > last ? last : row;
@@ -44,7 +49,7 @@ Tessar::rgba_float_t const& rowAt(ColorTable<N> const& table, double x) noexcept
 /// k/N, the first row is half as wide as the others, and the last one takes all
 /// from (N - 1.5)/N on.
 template <std::size_t N>
-Tessar::rgba_float_t const& tableRow(ColorTable<N> const& table, double value) noexcept {
+constexpr Tessar::rgba_float_t const& tableRow(ColorTable<N> const& table, double value) noexcept {
     return rowAt(table, value * static_cast<double>(N) + 0.5);
 }
 
