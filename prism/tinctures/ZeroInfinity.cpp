@@ -4,6 +4,7 @@
 #include "host/creators/VSource.hpp"
 #include "prism/tinctures/OutputMap.hpp"
 #include "prism/tinctures/science/arithmetic.hpp"
+#include "prism/tinctures/science/timesTwoOverPi.hpp"
 
 using namespace Orlo;
 using namespace prism;
@@ -68,17 +69,10 @@ private:
     TypedSlot<double> epsilon{this, "epsilon", 0.0, 0};
 };
 
-/// Squeezes the real line into -1 to 1. The product is taken in the extended
-/// precision of `long double` and rounded once.
-double squeezed(double v) {
-    constexpr long double twoOverPi = 0.636619772367581343075535053490057448L;
-    return static_cast<double>(std::atan(v) * twoOverPi);
-}
-
-/// The squeezed value chooses the branch and nothing else: the gradients run
-/// over the lookup value itself.
+/// The arc tangent squeezes the real line into -1 to 1. It chooses the branch and
+/// nothing else: the gradients run over the lookup value itself.
 rgba_float_t MyColormap::MyColorizer::getColor(double value) const {
-    double const d = squeezed(range(value));
+    double const d = timesTwoOverPi(std::atan(range(value)));
     if (d > -epsilon && d < epsilon)
         return zero;
     if (d < 0.0)
