@@ -9,60 +9,60 @@ namespace prism {
 
 namespace {
 
-__extension__ using Wide = unsigned __int128;
+__extension__ using Product = unsigned __int128;
 
 /// 2/pi, rounded to 64 bits, times 2^64.
 constexpr std::uint64_t TwoOverPi = 0xA2F9'836E'4E44'152A;
 
-// A double is a mantissa of 53 bits times a power of two; the least power is
-// that of the subnormal numbers.
+// A double is an integer of 53 bits times a power of two; the least power is that
+// of the subnormal numbers, which have fewer bits.
 constexpr int FractionBits = 52;
-constexpr int LeastExponent = -1074;
+constexpr int LeastPower = -1074;
+constexpr std::uint64_t LeadingBit = std::uint64_t{1} << FractionBits;
+constexpr std::uint64_t HighestBit = std::uint64_t{1} << 63;
 
-constexpr int bitWidth(Wide x) noexcept {
-    auto const upper = static_cast<std::uint64_t>(x >> 64);
-    auto const lower = static_cast<std::uint64_t>(x);
-    return upper != 0 ? 128 - std::countl_zero(upper) : 64 - std::countl_zero(lower);
+/// What to add when a rest is cut off behind an integer: rounds to nearest, and
+/// half-way to even.
+constexpr std::uint64_t carry(std::uint64_t integer, std::uint64_t rest,
+                              std::uint64_t half) noexcept {
+    auto const isAbove = static_cast<std::uint64_t>(rest > half);
+    auto const isHalf = static_cast<std::uint64_t>(rest == half);
+    return isAbove | (isHalf & integer & 1);  // without a branch
 }
-
-/// A number as an integer times a power of two.
-struct Scaled {
-    Wide integer;
-    int exponent;
-
-    /// Takes the given number of bits away, and rounds to nearest, ties to even.
-    constexpr void round(int bits) noexcept {
-        if (bits <= 0)
-            return;
-        Wide const half = Wide{1} << (bits - 1);
-        Wide const rest = integer & (2 * half - 1);
-        integer >>= bits;
-        exponent += bits;
-        if (rest > half || (rest == half && (integer & 1) != 0))
-            ++integer;
-    }
-};
 
 }  // namespace
 
 double timesTwoOverPi(double x) noexcept {
     if (x == 0.0 || !std::isfinite(x))
         return x;
-    auto const bits = std::bit_cast<std::uint64_t>(std::fabs(x));
-    std::uint64_t const fraction = bits & ((std::uint64_t{1} << FractionBits) - 1);
-    auto const power = static_cast<int>(bits >> FractionBits);
-    std::uint64_t const mantissa =
-        power == 0 ? fraction : fraction | (std::uint64_t{1} << FractionBits);
+    auto const magnitude = std::bit_cast<std::uint64_t>(std::fabs(x));
+    bool const isNormal = magnitude >= LeadingBit;
+    std::uint64_t const mantissa = (magnitude & (LeadingBit - 1)) | (isNormal ? LeadingBit : 0);
+    int power = std::max(static_cast<int>(magnitude >> FractionBits), 1) - 1 + LeastPower;
 
-    Scaled product{Wide{mantissa} * TwoOverPi, std::max(power, 1) - 1 + LeastExponent - 64};
-    product.round(bitWidth(product.integer) - 64);
-    product.round(
-        std::max(bitWidth(product.integer) - (FractionBits + 1), LeastExponent - product.exponent));
-    // The leading bit of the mantissa, where there is one, counts the power up.
-    std::uint64_t const scale = static_cast<std::uint64_t>(product.exponent - LeastExponent);
-    auto const result = std::bit_cast<double>((scale << FractionBits) +
-                                              static_cast<std::uint64_t>(product.integer));
-    return std::copysign(result, x);
+    // All 128 bits, with the highest one set.
+    int const zeros = std::countl_zero(mantissa);
+    Product product = Product{mantissa << zeros} * TwoOverPi;
+    power -= zeros;
+    int const shift = (product >> 127) == 0 ? 1 : 0;
+    product <<= shift;
+    power -= shift;
+
+    // The upper 64 bits are kept, and what they are rounded up by, which is added
+    // to the rest below: the sum here may have 65 bits.
+    auto const kept = static_cast<std::uint64_t>(product >> 64);
+    std::uint64_t const up = carry(kept, static_cast<std::uint64_t>(product), HighestBit);
+
+    // Of these, the 53 of a double are kept, or fewer.
+    int const surplus = std::max(63 - FractionBits, LeastPower - power);
+    std::uint64_t const half = std::uint64_t{1} << (surplus - 1);
+    std::uint64_t integer = kept >> (surplus - 1) >> 1;
+    std::uint64_t const rest = (kept & (2 * half - 1)) + up;
+    integer += carry(integer, rest, half);
+
+    // The leading bit, where there is one, counts the power up by one.
+    auto const scale = static_cast<std::uint64_t>(power + surplus - LeastPower);
+    return std::copysign(std::bit_cast<double>((scale << FractionBits) + integer), x);
 }
 
 }  // namespace prism
