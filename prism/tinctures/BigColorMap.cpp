@@ -1,4 +1,5 @@
 /// Sixty-one fixed colours: bright ones, darker ones, and a grey.
+/// Its map is rewritten in place.
 #include <cstdio>
 
 #include "host/creators/VSource.hpp"

@@ -1,4 +1,5 @@
 /// Colours that are as far apart as possible in a perceptual colour space.
+/// Its map is replaced.
 #include <cmath>
 
 #include "host/creators/VSource.hpp"

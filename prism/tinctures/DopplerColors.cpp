@@ -1,4 +1,5 @@
 /// Three lines on black: white in the centre, red below and blue above it.
+/// Its map is rewritten in place.
 #include <cmath>
 
 #include "host/creators/VSource.hpp"
@@ -35,17 +36,12 @@ public:
         : Tincture(name, kind, preferences, "colormap") {}
 
     bool update(VRequest& request, double) override {
-        OutputMap output(*this, request);
-        if (output.isEmpty())
-            output.publishNow(new Ramp);
-        if (auto* const map = output.as<Ramp>()) {
-            output.read(deviation, map->deviation);
-            output.read(lineintensity, map->lineintensity);
-            output.read(intensity, map->intensity);
-            output.read(linewidth, map->linewidth);
-            output.refresh();
-        }
-        return output.publish();
+        return rewrite<Ramp>(*this, request, [this](auto& output, auto& map) {
+            output.read(deviation, map.deviation);
+            output.read(lineintensity, map.lineintensity);
+            output.read(intensity, map.intensity);
+            output.read(linewidth, map.linewidth);
+        });
     }
 
     bool must_update(VRequest const& request, double) const override {

@@ -1,4 +1,5 @@
 /// From black to white through a chosen colour at a chosen place.
+/// Its map is rewritten in place.
 #include <cmath>
 
 #include "host/creators/VSource.hpp"

@@ -1,4 +1,5 @@
 /// Thirteen hard bands, from blue over green and brown to purple.
+/// Its map is made once.
 #include "host/creators/VSource.hpp"
 #include "prism/tinctures/OutputMap.hpp"
 #include "prism/tinctures/hypsometricHelp.hpp"
@@ -41,15 +42,7 @@ public:
     ColorRamp_Hypoxia(std::string const& name, int kind, PreferencesPtr const& preferences)
         : Tincture(name, kind, preferences, "colormap") {}
 
-    /// A map made once serves for ever.
-    bool update(VRequest& request, double) override {
-        OutputMap output(*this, request);
-        if (output.isEmpty())
-            output.hold(new Ramp);
-        if (output.as<Ramp>() != nullptr)
-            output.refresh();
-        return output.publish();
-    }
+    bool update(VRequest& request, double) override { return makeOnce<Ramp>(*this, request); }
 
     std::string help(HelpType type) const override { return hypsometricHelp(type); }
 };

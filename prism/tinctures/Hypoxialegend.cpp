@@ -1,4 +1,5 @@
 /// The upper seven bands of the hypoxia tints, spread over the whole range.
+/// Its map is made once.
 #include "host/creators/VSource.hpp"
 #include "prism/tinctures/OutputMap.hpp"
 #include "prism/tinctures/hypsometricHelp.hpp"
@@ -37,15 +38,7 @@ public:
     ColorRamp_HypoxiaLegend(std::string const& name, int kind, PreferencesPtr const& preferences)
         : Tincture(name, kind, preferences, "colormap") {}
 
-    /// A map made once serves for ever.
-    bool update(VRequest& request, double) override {
-        OutputMap output(*this, request);
-        if (output.isEmpty())
-            output.hold(new Ramp);
-        if (output.as<Ramp>() != nullptr)
-            output.refresh();
-        return output.publish();
-    }
+    bool update(VRequest& request, double) override { return makeOnce<Ramp>(*this, request); }
 
     std::string help(HelpType type) const override { return hypsometricHelp(type); }
 };

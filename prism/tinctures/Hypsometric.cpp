@@ -1,4 +1,5 @@
 /// Heights and depths in twenty hard bands.
+/// Its map is replaced.
 #include "host/creators/VSource.hpp"
 #include "prism/tinctures/OutputMap.hpp"
 #include "prism/tinctures/hypsometricHelp.hpp"

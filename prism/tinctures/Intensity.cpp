@@ -1,4 +1,5 @@
 /// A straight blend of two colours.
+/// Its map is rewritten in place.
 #include "host/creators/VSource.hpp"
 #include "prism/tinctures/OutputMap.hpp"
 #include "prism/tinctures/science/arithmetic.hpp"
@@ -30,15 +31,10 @@ public:
         : Tincture(name, kind, preferences, "colormap") {}
 
     bool update(VRequest& request, double) override {
-        OutputMap output(*this, request);
-        if (output.isEmpty())
-            output.publishNow(new Ramp);
-        if (auto* const map = output.as<Ramp>()) {
-            output.read(startcolor, map->startColor);
-            output.read(endcolor, map->endColor);
-            output.refresh();
-        }
-        return output.publish();
+        return rewrite<Ramp>(*this, request, [this](auto& output, auto& map) {
+            output.read(startcolor, map.startColor);
+            output.read(endcolor, map.endColor);
+        });
     }
 
     bool must_update(VRequest const& request, double) const override {

@@ -1,4 +1,5 @@
 /// The bent two-colour gradient, taken at an exponential of the value.
+/// Its map is rewritten in place.
 #include <cmath>
 
 #include "host/creators/VSource.hpp"

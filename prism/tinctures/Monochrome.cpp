@@ -1,4 +1,5 @@
 /// One colour for every value.
+/// Its map is rewritten in place.
 #include "host/creators/VSource.hpp"
 #include "prism/tinctures/OutputMap.hpp"
 
@@ -25,14 +26,8 @@ public:
         : Tincture(name, kind, preferences, "colormap") {}
 
     bool update(VRequest& request, double) override {
-        OutputMap output(*this, request);
-        if (output.isEmpty())
-            output.publishNow(new Generator);
-        if (auto* const map = output.as<Generator>()) {
-            output.read(color, map->color);
-            output.refresh();
-        }
-        return output.publish();
+        return rewrite<Generator>(
+            *this, request, [this](auto& output, auto& map) { output.read(color, map.color); });
     }
 
     bool must_update(VRequest const& request, double) const override {

@@ -11,7 +11,8 @@ namespace prism {
 /// The map in the output of a colour-map object, during one update.
 ///
 /// An update is a composition of these steps; which ones an object takes, and in
-/// what order, is what tells the objects apart:
+/// what order, is what tells the objects apart. Two compositions that several
+/// objects share have names: `makeOnce` and `rewrite`, below.
 ///
 ///     OutputMap output(*this, request);      // the map that stands there
 ///     if (output.isEmpty())
@@ -99,6 +100,33 @@ private:
     Orlo::PoolPtr const pool_;
     Orlo::ColormapPtr map_;
 };
+
+/// The update of objects without parameters: a map made once serves for ever.
+template <class Map>
+bool makeOnce(Orlo::Tincture& object, Orlo::VRequest const& request) {
+    OutputMap output(object, request);
+    if (output.isEmpty())
+        output.hold(new Map);
+    if (output.as<Map>() != nullptr)
+        output.refresh();
+    return output.publish();
+}
+
+/// The update of objects that rewrite one map: a new one is published at once,
+/// and then `readParameters(output, map)` writes into the fields of the map that
+/// everybody sees.
+template <class Map, class ReadParameters>
+bool rewrite(Orlo::Tincture& object, Orlo::VRequest const& request,
+             ReadParameters const& readParameters) {
+    OutputMap output(object, request);
+    if (output.isEmpty())
+        output.publishNow(new Map);
+    if (Map* const map = output.as<Map>()) {
+        readParameters(output, *map);
+        output.refresh();
+    }
+    return output.publish();
+}
 
 /// The own `must_update` of most objects: whether no live map stands in the
 /// output. That a parameter has changed is for the host to see.

@@ -1,4 +1,5 @@
 /// Hues round the colour circle, with brightness and saturation falling off.
+/// Its map is rewritten in place.
 #include <cmath>
 
 #include "host/creators/VSource.hpp"

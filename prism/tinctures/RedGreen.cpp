@@ -1,5 +1,6 @@
 /// A two-colour gradient that swells in the middle and can bend, at its far
 /// end, towards the complement of its start colour.
+/// Its map is rewritten in place.
 #include "host/creators/VSource.hpp"
 #include "prism/tinctures/OutputMap.hpp"
 #include "prism/tinctures/science/arithmetic.hpp"
@@ -30,17 +31,12 @@ public:
         : Tincture(name, kind, preferences, "colormap") {}
 
     bool update(VRequest& request, double) override {
-        OutputMap output(*this, request);
-        if (output.isEmpty())
-            output.publishNow(new Ramp);
-        if (auto* const map = output.as<Ramp>()) {
-            output.read(startcolor, map->startcolor);
-            output.read(endcolor, map->endcolor);
-            output.read(blend, map->blend);
-            output.read(multiplier, map->multiplier);
-            output.refresh();
-        }
-        return output.publish();
+        return rewrite<Ramp>(*this, request, [this](auto& output, auto& map) {
+            output.read(startcolor, map.startcolor);
+            output.read(endcolor, map.endcolor);
+            output.read(blend, map.blend);
+            output.read(multiplier, map.multiplier);
+        });
     }
 
     bool must_update(VRequest const& request, double) const override {

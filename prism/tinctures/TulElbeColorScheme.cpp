@@ -1,4 +1,5 @@
 /// Colours of point classes: the Elbe scheme.
+/// Its map is made once.
 #include "host/creators/VSource.hpp"
 #include "prism/tinctures/OutputMap.hpp"
 #include "prism/tinctures/science/tableRule.hpp"
@@ -37,15 +38,7 @@ public:
     TulColor(std::string const& name, int kind, PreferencesPtr const& preferences)
         : Tincture(name, kind, preferences, "colormap") {}
 
-    /// A map made once serves for ever.
-    bool update(VRequest& request, double) override {
-        OutputMap output(*this, request);
-        if (output.isEmpty())
-            output.hold(new Ramp);
-        if (output.as<Ramp>() != nullptr)
-            output.refresh();
-        return output.publish();
-    }
+    bool update(VRequest& request, double) override { return makeOnce<Ramp>(*this, request); }
 
     /// Both schemes give this text, the Elbe scheme too.
     std::string help(HelpType) const override { return "TulLass Color Scheme"; }

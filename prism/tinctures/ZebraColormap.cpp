@@ -1,4 +1,5 @@
 /// Stripes: from one colour to another and back at once, again and again.
+/// Its map is rewritten in place.
 #include <cmath>
 
 #include "host/creators/VSource.hpp"
@@ -35,18 +36,13 @@ public:
 
     /// The time is kept with the map, and no colour depends on it.
     bool update(VRequest& request, double) override {
-        OutputMap output(*this, request);
-        if (output.isEmpty())
-            output.publishNow(new Ramp);
-        if (auto* const map = output.as<Ramp>()) {
-            output.read(startcolor, map->startcolor);
-            output.read(endcolor, map->endcolor);
-            output.read(frequency, map->frequency);
-            output.read(phase, map->phase);
-            map->time = getTime(output.pool(), 0.0, Range(0.0, 1.0));
-            output.refresh();
-        }
-        return output.publish();
+        return rewrite<Ramp>(*this, request, [this](auto& output, auto& map) {
+            output.read(startcolor, map.startcolor);
+            output.read(endcolor, map.endcolor);
+            output.read(frequency, map.frequency);
+            output.read(phase, map.phase);
+            map.time = getTime(output.pool(), 0.0, Range(0.0, 1.0));
+        });
     }
 
     bool must_update(VRequest const& request, double) const override {

@@ -1,4 +1,5 @@
 /// Marks the zero of a signed quantity between two gradients.
+/// Its map is rewritten in place.
 #include <cmath>
 
 #include "host/creators/VSource.hpp"
