@@ -1,0 +1,2 @@
+/// Carries the precompiled header, and does nothing.
+int main() {}
