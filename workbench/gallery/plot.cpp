@@ -85,7 +85,8 @@ PlotScale scaleFor(Samples const& samples) {
 /// The numbers of the axis; 0 and 1 come first, so that they have their place.
 std::vector<double> ticksByWeight(PlotScale const& scale) {
     std::vector<double> ticks = scale.ticks();
-    std::ranges::stable_partition(ticks, [](double tick) { return tick == 0.0 || tick == 1.0; });
+    std::stable_partition(ticks.begin(), ticks.end(),
+                          [](double tick) { return tick == 0.0 || tick == 1.0; });
     return ticks;
 }
 

@@ -113,7 +113,7 @@ public:
     workbench::Image picture(std::string const& viewer = "Viewer1") const;
 
     Orlo::PoolPtr const pool = new Orlo::ValuePool("Viewer1");
-    Nucleo::Intercube const context;
+    Nucleo::Intercube const context{};
 
 private:
     workbench::SceneCreators creators_;
