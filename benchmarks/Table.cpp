@@ -15,21 +15,23 @@ void Table::ReportRuns(std::vector<Run> const& runs) {
     }
 }
 
-void Table::print(std::vector<Group> const& groups) const {
+void Table::print(std::FILE* file, std::vector<Group> const& groups) const {
     for (Group const& group : groups) {
-        std::printf("\n### %s\n\n| what | ns |", group.title.c_str());
+        std::fprintf(file, "\n### %s\n\n| what | ns |", group.title.c_str());
         for (std::string const& title : group.floorTitles)
-            std::printf(" %s, ns | ratio |", title.c_str());
-        std::printf("\n| --- | ---: |");
+            std::fprintf(file, " %s, ns | ratio |", title.c_str());
+        std::fprintf(file, "\n| --- | ---: |");
         for (std::size_t i = 0; i < group.floorTitles.size(); ++i)
-            std::printf(" ---: | ---: |");
-        std::printf("\n");
+            std::fprintf(file, " ---: | ---: |");
+        std::fprintf(file, "\n");
         for (Row const& row : group.rows) {
+            if (!medians_.contains(row.measured))
+                continue;  // a filter left it out
             double const measured = medians_.at(row.measured);
-            std::printf("| %s | %.4g |", row.what.c_str(), measured);
+            std::fprintf(file, "| %s | %.4g |", row.what.c_str(), measured);
             for (std::string const& floor : row.floors)
-                std::printf(" %.4g | %.2f |", medians_.at(floor), measured / medians_.at(floor));
-            std::printf("\n");
+                std::fprintf(file, " %.4g | %.2f |", medians_.at(floor), measured / medians_.at(floor));
+            std::fprintf(file, "\n");
         }
     }
 }

@@ -3,6 +3,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <cstdio>
 #include <map>
 #include <string>
 #include <vector>
@@ -31,8 +32,7 @@ public:
     bool ReportContext(Context const&) override { return true; }
     void ReportRuns(std::vector<Run> const& runs) override;
 
-    /// On standard output.
-    void print(std::vector<Group> const& groups) const;
+    void print(std::FILE* file, std::vector<Group> const& groups) const;
 
 private:
     /// Nanoseconds for one item, the median of the repetitions.

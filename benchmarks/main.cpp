@@ -1,8 +1,10 @@
-/// Runs all benchmarks and prints their tables in Markdown.
+/// Runs all benchmarks and writes their tables in Markdown: benchmarks --results=FILE
+/// Not to standard output, which the plug-in writes to as well.
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <string>
+#include <string_view>
 #include <thread>
 
 #include "benchmarks/groups.hpp"
@@ -19,10 +21,27 @@ std::string fact(char const* file, std::string const& key) {
     return "unknown";
 }
 
-void printMachine() {
-    std::printf("Processor: %s, %u threads. Compiler: %s.\n",
-                fact("/proc/cpuinfo", "model name").c_str(), std::thread::hardware_concurrency(),
-                PRISM_COMPILER);
+void printMachine(std::FILE* file) {
+    std::fprintf(file, "Processor: %s, %u threads. Compiler: %s.\n",
+                 fact("/proc/cpuinfo", "model name").c_str(), std::thread::hardware_concurrency(),
+                 PRISM_COMPILER);
+}
+
+/// The file of the argument --results=FILE, which is taken out; none without it.
+std::FILE* takeResults(int& argc, char** argv) {
+    constexpr std::string_view Option = "--results=";
+    std::FILE* file = nullptr;
+    argc = static_cast<int>(
+        std::remove_if(argv + 1, argv + argc,
+                       [&](std::string_view argument) {
+                           if (!argument.starts_with(Option))
+                               return false;
+                           file =
+                               std::fopen(std::string(argument.substr(Option.size())).c_str(), "w");
+                           return true;
+                       }) -
+        argv);
+    return file;
 }
 
 }  // namespace
@@ -30,6 +49,11 @@ void printMachine() {
 int main(int argc, char** argv) {
     std::thread([] {}).join();  // from here on std::shared_ptr counts atomically
     benchmark::Initialize(&argc, argv);
+    std::FILE* const results = takeResults(argc, argv);
+    if (results == nullptr) {
+        std::fputs("benchmarks: --results=FILE must name a file that can be written\n", stderr);
+        return 2;
+    }
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 2;
     benchmarks::Table table;
@@ -47,6 +71,7 @@ int main(int argc, char** argv) {
     }
     groups.push_back(benchmarks::loading(workbench::pluginBesideProgram()));
     benchmark::RunSpecifiedBenchmarks(&table);
-    printMachine();
-    table.print(groups);
+    printMachine(results);
+    table.print(results, groups);
+    return std::fclose(results) == 0 ? 0 : 1;
 }
