@@ -2,20 +2,30 @@
 #
 # A target sees only the layers that it is given: each layer has an include
 # folder of its own in the build tree, with a link to the sources in it, and
-# nobody has the root of the sources on the include path.
+# nobody has the root of the sources on the include path. A layer is a folder of
+# the tree, such as `prism` or `workbench/scene`.
+#
+# prism_layer(TARGET [PUBLIC] LAYER...): with PUBLIC, what links the target sees
+# the layers too.
 function(prism_layer target)
-  foreach(layer IN LISTS ARGN)
-    set(folder ${CMAKE_BINARY_DIR}/layers/${layer})
+  cmake_parse_arguments(PARSE_ARGV 1 LAYER PUBLIC "" "")
+  get_target_property(type ${target} TYPE)
+  if(type STREQUAL "INTERFACE_LIBRARY")
+    set(visibility INTERFACE)
+  elseif(LAYER_PUBLIC)
+    set(visibility PUBLIC)
+  else()
+    set(visibility PRIVATE)
+  endif()
+  foreach(layer IN LISTS LAYER_UNPARSED_ARGUMENTS)
+    string(REPLACE / _ name ${layer})
+    set(folder ${CMAKE_BINARY_DIR}/layers/${name})
     if(NOT EXISTS ${folder}/${layer})
-      file(MAKE_DIRECTORY ${folder})
+      cmake_path(GET layer PARENT_PATH parent)
+      file(MAKE_DIRECTORY ${folder}/${parent})
       file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${layer} ${folder}/${layer} SYMBOLIC)
     endif()
-    get_target_property(type ${target} TYPE)
-    if(type STREQUAL "INTERFACE_LIBRARY")
-      target_include_directories(${target} INTERFACE ${folder})
-    else()
-      target_include_directories(${target} PRIVATE ${folder})
-    endif()
+    target_include_directories(${target} ${visibility} ${folder})
   endforeach()
 endfunction()
 

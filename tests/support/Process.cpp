@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "workbench/common/paths.hpp"
+#include "workbench/platform/program.hpp"
 
 #if defined(_WIN32)
 #include <windows.h>
@@ -152,13 +153,7 @@ ProcessResult runProcess(fs::path const& program, std::vector<std::string> const
 }
 
 fs::path programBeside(std::string const& name) {
-#if defined(_WIN32)
-    std::wstring text(32768, L'\0');
-    text.resize(GetModuleFileNameW(nullptr, text.data(), static_cast<DWORD>(text.size())));
-    return fs::path(text).parent_path() / (name + ".exe");
-#else
-    return fs::read_symlink("/proc/self/exe").parent_path() / name;
-#endif
+    return workbench::fileBesideProgram(workbench::programFileName(name));
 }
 
 TemporaryFolder::TemporaryFolder() {

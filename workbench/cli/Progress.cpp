@@ -1,28 +1,12 @@
 #include "workbench/cli/Progress.hpp"
 
-#include <algorithm>
 #include <cstdio>
 #include <utility>
 
-#if defined(_WIN32)
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
+#include "workbench/common/clamp.hpp"
+#include "workbench/platform/console.hpp"
 
 namespace workbench {
-
-namespace {
-
-bool errorsGoToTerminal() {
-#if defined(_WIN32)
-    return _isatty(_fileno(stderr)) != 0;
-#else
-    return isatty(fileno(stderr)) != 0;
-#endif
-}
-
-}  // namespace
 
 Progress::Progress(std::string label) : label_(std::move(label)), visible_(errorsGoToTerminal()) {}
 
@@ -32,7 +16,7 @@ Progress::~Progress() {
 }
 
 void Progress::show(double part) {
-    int const percent = static_cast<int>(100.0 * std::clamp(part, 0.0, 1.0));
+    int const percent = static_cast<int>(100.0 * clampToUnit(part));
     if (!visible_ || percent == shown_)
         return;
     shown_ = percent;

@@ -9,9 +9,9 @@
 #include "workbench/common/nearest.hpp"
 #include "workbench/common/paths.hpp"
 #include "workbench/network/Network.hpp"
-#include "workbench/nodes/SceneCreators.hpp"
+#include "workbench/nodes/NodeCreators.hpp"
+#include "workbench/nodes/Viewer.hpp"
 #include "workbench/picture/png.hpp"
-#include "workbench/scene/render.hpp"
 #include "workbench/session/Session.hpp"
 
 namespace workbench {
@@ -94,7 +94,7 @@ void run(SessionOptions const& common, Arguments const& given) {
     checkArguments(given);
     Script const script = readScript(given.network);
     Session const session(common);
-    SceneCreators const kinds;
+    NodeCreators const kinds;
     Network network;
     network.carryOut(script);
     report(given.network, network.complaints());

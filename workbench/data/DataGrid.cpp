@@ -3,9 +3,8 @@
 #include "workbench/common/errors.hpp"
 
 #if PRISM_GDAL
-#include <dlfcn.h>
-
-#include "workbench/session/PluginFile.hpp"
+#include "workbench/platform/Library.hpp"
+#include "workbench/platform/program.hpp"
 #endif
 
 namespace workbench {
@@ -20,13 +19,16 @@ using Opener = DataGrid* (*)(std::string const& name, int band);
 /// needed and stays: GDAL brings a hundred libraries, which would make every
 /// command start late.
 Opener loadReader() {
-    auto const file = pluginBesideProgram().replace_filename("telmbench_gdal.so");
-    void* const library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
-    void* const opener = library != nullptr ? dlsym(library, "openGdalGrid") : nullptr;
-    if (opener == nullptr)
-        throw WorkError(std::string("the reader of grids cannot be loaded: ") + dlerror() +
+    constexpr char Export[] = "openGdalGrid";
+    try {
+        static Library const& library = *new Library(fileBesideProgram("telmbench_gdal.so"));
+        if (auto const opener = library.find<Opener>(Export))
+            return opener;
+        throw LibraryError(std::string("it lacks the export ") + Export);
+    } catch (LibraryError const& error) {
+        throw WorkError(std::string("the reader of grids cannot be loaded: ") + error.what() +
                         "; it belongs beside the program, and GDAL has to be installed");
-    return reinterpret_cast<Opener>(opener);
+    }
 }
 
 }  // namespace

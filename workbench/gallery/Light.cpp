@@ -2,22 +2,20 @@
 
 #include <cmath>
 
+#include "workbench/common/clamp.hpp"
+
 namespace workbench {
 
 namespace {
 
-double limited(double amount) {
-    return amount >= 1.0 ? 1.0 : amount > 0.0 ? amount : 0.0;  // NaN is 0
-}
-
 /// IEC 61966-2-1. Rounded to float, in which the C libraries agree.
 double freed(float component) {
-    double const c = limited(component);
+    double const c = clampToUnit(component);
     return c <= 0.04045 ? c / 12.92 : static_cast<float>(std::pow((c + 0.055) / 1.055, 2.4));
 }
 
 float companded(double amount) {
-    double const a = limited(amount);
+    double const a = clampToUnit(amount);
     return static_cast<float>(a <= 0.0031308 ? a * 12.92 : 1.055 * std::pow(a, 1.0 / 2.4) - 0.055);
 }
 

@@ -10,10 +10,10 @@
 #include "workbench/common/nearest.hpp"
 #include "workbench/network/connect.hpp"
 #include "workbench/network/editScript.hpp"
-#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/Node.hpp"
+#include "workbench/nodes/Viewer.hpp"
 #include "workbench/nodes/hostObjects.hpp"
 #include "workbench/nodes/values.hpp"
-#include "workbench/scene/render.hpp"
 #include "workbench/session/parameters.hpp"
 
 namespace workbench {

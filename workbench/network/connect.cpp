@@ -6,7 +6,7 @@
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/common/nearest.hpp"
-#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/Node.hpp"
 #include "workbench/session/parameters.hpp"
 #include "workbench/session/typeNames.hpp"
 

@@ -1,8 +1,9 @@
 /// The camera as an object.
 #include "host/values/TypedSlot.hpp"
-#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/HostObject.hpp"
 #include "workbench/nodes/Port.hpp"
 #include "workbench/nodes/kinds.hpp"
+#include "workbench/nodes/values.hpp"
 #include "workbench/scene/View.hpp"
 
 using namespace Orlo;
@@ -11,7 +12,20 @@ namespace workbench {
 
 namespace {
 
-/// Provides the view of each viewer; see `View` for the parameters.
+/// Provides the view of each viewer, as a script sets it. The parameters, in
+/// their order:
+///
+/// | name       | text, by default | meaning                                          |
+/// |------------|------------------|--------------------------------------------------|
+/// | "observer" | `{0,2.4,1}`      | where the camera stands                          |
+/// | "lookat"   | `{0,0,0}`        | the point in the middle of the picture           |
+/// | "up"       | `{0,1,0}`        | the direction that is upward in the picture      |
+/// | "zoom"     | `45`             | vertical angle of view in degrees, 0.001 to 170; |
+/// |            |                  | smaller is closer                                |
+/// | "near"     | `0.02`           | least depth that is shown                        |
+/// | "far"      | `100`            | greatest depth that is shown                     |
+/// | "options"  | ` -Orthographic` | parallel rays; "lookat" is seen at the same size |
+/// | "time"     | `0[0,1]@0.1`     | for others; no picture depends on it             |
 class Camera : public HostObject {
 public:
     using HostObject::HostObject;

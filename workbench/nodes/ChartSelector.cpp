@@ -1,8 +1,8 @@
 /// Coordinates for what is shown.
-#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/Bundle.hpp"
+#include "workbench/nodes/HostObject.hpp"
 #include "workbench/nodes/Port.hpp"
 #include "workbench/nodes/kinds.hpp"
-#include "workbench/scene/ScalarField.hpp"
 
 using namespace Orlo;
 

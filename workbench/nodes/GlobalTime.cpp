@@ -1,6 +1,6 @@
 /// The time of a network.
 #include "host/values/TypedSlot.hpp"
-#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/HostObject.hpp"
 #include "workbench/nodes/kinds.hpp"
 
 using namespace Orlo;
@@ -10,9 +10,9 @@ namespace workbench {
 namespace {
 
 /// Holds one time; others connect their own to its parameter "value".
-class GlobalTime : public SceneObject {
+class GlobalTime : public Node {
 public:
-    using SceneObject::SceneObject;
+    using Node::Node;
 
 private:
     TypedSlot<VTime> value_{this, "value", VTime(0, 0, 1, 0.1, "", "", ""), 0};

@@ -1,10 +1,10 @@
 /// Takes a grid out of a bundle.
 #include "host/values/TypedSlot.hpp"
-#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/Bundle.hpp"
+#include "workbench/nodes/HostObject.hpp"
 #include "workbench/nodes/Port.hpp"
 #include "workbench/nodes/kinds.hpp"
 #include "workbench/nodes/values.hpp"
-#include "workbench/scene/ScalarField.hpp"
 
 using namespace Orlo;
 
@@ -14,9 +14,9 @@ namespace {
 
 /// Provides the grid of the bundle at "spacetime" whose name is that of
 /// "gridname", before the at sign; nothing, and a warning, if there is none.
-class Grid : public SceneObject {
+class Grid : public Node {
 public:
-    using SceneObject::SceneObject;
+    using Node::Node;
 
     bool update(VRequest& request, double) override {
         PoolPtr const& pool = request.pool();

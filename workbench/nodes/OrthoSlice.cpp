@@ -1,6 +1,8 @@
 /// Shows a plane through a field.
 #include "host/values/TypedSlot.hpp"
-#include "workbench/nodes/Keeper.hpp"
+#include "workbench/common/clamp.hpp"
+#include "workbench/nodes/Bundle.hpp"
+#include "workbench/nodes/HostObject.hpp"
 #include "workbench/nodes/Port.hpp"
 #include "workbench/nodes/kinds.hpp"
 #include "workbench/scene/Slice.hpp"
@@ -21,9 +23,9 @@ namespace {
 /// | "position"         | of the plane on that axis, in the units of the camera  |
 ///
 /// Without a field or without a map nothing is shown.
-class OrthoSlice : public SceneObject {
+class OrthoSlice : public Node {
 public:
-    using SceneObject::SceneObject;
+    using Node::Node;
 
     bool update(VRequest& request, double) override {
         PoolPtr const& pool = request.pool();
@@ -37,20 +39,22 @@ public:
 private:
     SliceOptions options(PoolPtr const& pool) const {
         SliceOptions options;
+        Range datarange;
         Enum mode, orientation, precision;
         double transparency = 1;
-        datarange_.read(pool, options.datarange);
+        datarange_.read(pool, datarange);
         mode_.read(pool, mode);
         orientation_.read(pool, orientation);
         textureprecision_.read(pool, precision);
         transparency_.read(pool, transparency);
         position_.read(pool, options.position);
+        options.datarange = {datarange.minimum, datarange.maximum};
         options.mode = mode.Equal("Discrete") ? SliceMode::Discrete
                        : mode.Equal("Smooth") ? SliceMode::Smooth
                                               : SliceMode::Interpolated;
         options.normal = orientation.Equal("X") ? 0 : orientation.Equal("Z") ? 2 : 1;
         options.precision = precision.Equal("16bit") ? 65535 : 255;
-        options.opacity = transparency >= 1 ? 1.0 : transparency > 0 ? transparency : 0.0;
+        options.opacity = clampToUnit(transparency);
         return options;
     }
 

@@ -21,6 +21,13 @@ struct VValueTrait<std::shared_ptr<Data const>> {
 
 namespace workbench {
 
+/// The presence of an object, where nothing else of it matters.
+struct Presence {
+    static constexpr char const* Description = "An Object.";
+};
+
+using PresencePtr = std::shared_ptr<Presence const>;
+
 template <class T>
 Orlo::ParameterPtr makePortParameter(std::string const& name) {
     Orlo::StrongPtr<Orlo::VValue<T>, Orlo::VValueBase> const value = new Orlo::VValue<T>;

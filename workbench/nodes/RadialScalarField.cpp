@@ -2,10 +2,11 @@
 #include <algorithm>
 
 #include "host/values/TypedSlot.hpp"
-#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/Bundle.hpp"
+#include "workbench/nodes/HostObject.hpp"
 #include "workbench/nodes/Port.hpp"
 #include "workbench/nodes/kinds.hpp"
-#include "workbench/scene/ScalarField.hpp"
+#include "workbench/scene/Hill.hpp"
 
 using namespace Orlo;
 
@@ -18,34 +19,6 @@ constexpr char const* FieldName = "radialfield";
 
 /// More samples than this would not fit into a texture.
 constexpr int MostSamples = 2048;
-
-/// The hill: `height` in the middle, level 0 at the edges of the middle plane
-/// and beyond, level and smooth at both. `age`, from 0 to 1, is how far it has
-/// sunk.
-///
-/// With u = r^2 / (2 halfEdge^2) it is height (1 - u)^2 / (1 + 8 age u), which
-/// takes no operation that depends on the system.
-class Hill : public ScalarField {
-public:
-    Hill(UniformGrid const& grid, double height, double age)
-        : ScalarField(grid), height_(height), age_(age) {}
-
-    double sample(int i, int j, int k) const override {
-        double const u = (square(i) + square(j) + square(k)) / 2.0;
-        double const rest = u < 1.0 ? 1.0 - u : 0.0;
-        return height_ * rest * rest / (1.0 + 8.0 * age_ * u);
-    }
-
-private:
-    /// The square of a coordinate, in half edges.
-    double square(int index) const {
-        double const x = grid().coordinate(index) / grid().halfEdge;
-        return x * x;
-    }
-
-    double height_;
-    double age_;
-};
 
 /// The hill over time: in `steps` equal steps from time 0 to `last` it sinks;
 /// before and after it rests. A time between two steps shows the nearer one.
@@ -86,9 +59,9 @@ private:
 ///
 /// Numbers outside their range count as the nearest inside; a size that is none
 /// counts as 1.
-class RadialScalarField : public SceneObject {
+class RadialScalarField : public Node {
 public:
-    using SceneObject::SceneObject;
+    using Node::Node;
 
     bool update(VRequest& request, double) override {
         PoolPtr const& pool = request.pool();

@@ -1,6 +1,6 @@
 /// A range of values.
 #include "host/values/TypedSlot.hpp"
-#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/HostObject.hpp"
 #include "workbench/nodes/Port.hpp"
 #include "workbench/nodes/kinds.hpp"
 
@@ -13,9 +13,9 @@ namespace {
 /// Provides a range: with the mode "MinMax" from "min" to "max", with
 /// "ScaleOffset" from "offset" to "offset" + "scale". Both are 0 to 100 at
 /// first.
-class Range100 : public SceneObject {
+class Range100 : public Node {
 public:
-    using SceneObject::SceneObject;
+    using Node::Node;
 
     bool update(VRequest& request, double) override {
         PoolPtr const& pool = request.pool();

@@ -1,8 +1,7 @@
 /// Takes a field out of a bundle.
-#include "workbench/scene/ScalarField.hpp"
-
 #include "host/values/TypedSlot.hpp"
-#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/Bundle.hpp"
+#include "workbench/nodes/HostObject.hpp"
 #include "workbench/nodes/Port.hpp"
 #include "workbench/nodes/kinds.hpp"
 #include "workbench/nodes/values.hpp"
@@ -16,9 +15,9 @@ namespace {
 /// Provides the field on the grid at "grid" whose name is that of "fieldname",
 /// before the at sign, as it is at the "time"; nothing, and a warning, if there
 /// is none.
-class Scalarfield : public SceneObject {
+class Scalarfield : public Node {
 public:
-    using SceneObject::SceneObject;
+    using Node::Node;
 
     bool update(VRequest& request, double) override {
         PoolPtr const& pool = request.pool();

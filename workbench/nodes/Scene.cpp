@@ -1,5 +1,5 @@
 /// The scene as an object.
-#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/HostObject.hpp"
 #include "workbench/nodes/Port.hpp"
 #include "workbench/nodes/kinds.hpp"
 #include "workbench/scene/Renderable.hpp"
@@ -7,12 +7,6 @@
 using namespace Orlo;
 
 namespace workbench {
-
-std::optional<Fragment> Renderable::meet(Ray const&) const {
-    return std::nullopt;
-}
-
-void Renderable::drawOver(Image&) const {}
 
 namespace {
 

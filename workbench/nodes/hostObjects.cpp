@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/HostObject.hpp"
+#include "workbench/nodes/Viewer.hpp"
 #include "workbench/nodes/kinds.hpp"
-#include "workbench/scene/render.hpp"
 
 namespace workbench {
 

@@ -4,17 +4,9 @@
 #include <string>
 
 #include "host/values/VValueTrait.hpp"
+#include "workbench/scene/geometry.hpp"
 
 namespace workbench {
-
-/// A place or a direction in space; units are those of the data.
-struct Point {
-    double x = 0.0;
-    double y = 0.0;
-    double z = 0.0;
-
-    bool operator==(Point const&) const = default;
-};
 
 /// The part of space between two opposite corners.
 struct Box {
@@ -22,15 +14,6 @@ struct Box {
     Point greatest;
 
     bool operator==(Box const&) const = default;
-};
-
-/// Two numbers that belong together: a size in pixels, or a place as fractions
-/// of a picture, to the right and up.
-struct Pair {
-    double first = 0.0;
-    double second = 0.0;
-
-    bool operator==(Pair const&) const = default;
 };
 
 /// The name of something within something else: a field of a bundle.

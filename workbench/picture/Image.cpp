@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "workbench/common/clamp.hpp"
+
 namespace workbench {
 
 namespace {
@@ -15,8 +17,7 @@ std::size_t pixelCount(int width, int height) {
 }
 
 std::uint8_t quantised(float component) {
-    double const limited = component >= 1.0F ? 1.0 : component > 0.0F ? double{component} : 0.0;
-    return static_cast<std::uint8_t>(limited * 255.0 + 0.5);
+    return static_cast<std::uint8_t>(clampToUnit(component) * 255.0 + 0.5);
 }
 
 }  // namespace

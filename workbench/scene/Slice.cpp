@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "workbench/common/clamp.hpp"
+#include "workbench/picture/domain.hpp"
+
 namespace workbench {
 
 namespace {
@@ -38,7 +41,7 @@ Tessar::rgba_float_t mixed(Tessar::rgba_float_t const& a, Tessar::rgba_float_t c
 
 }  // namespace
 
-Slice::Slice(ScalarField const& field, Orlo::ColormapPtr const& map, SliceOptions const& options)
+Slice::Slice(Field const& field, Orlo::ColormapPtr const& map, SliceOptions const& options)
     : map_(map), options_(options), grid_(field.grid()) {
     double const half = grid_.halfEdge;
     plane_ = options.position >= half ? half : options.position >= -half ? options.position : -half;
@@ -51,7 +54,7 @@ Slice::Slice(ScalarField const& field, Orlo::ColormapPtr const& map, SliceOption
 }
 
 /// The plane may lie between two layers of samples.
-void Slice::sampleField(ScalarField const& field) {
+void Slice::sampleField(Field const& field) {
     auto const normal = static_cast<std::size_t>(options_.normal);
     Between const layer(grid_.place(plane_), grid_.samples);
     scalars_.resize(index(0, grid_.samples));
@@ -69,19 +72,16 @@ void Slice::sampleField(ScalarField const& field) {
 }
 
 double Slice::texel(double sample) const {
-    Orlo::Range const& range = options_.datarange;
-    double const scalar = (sample - range.minimum) / (range.maximum - range.minimum);
-    double const limited = scalar >= 1 ? 1.0 : scalar > 0 ? scalar : 0.0;
-    bool const empty = range.minimum == range.maximum;
-    return empty ? 0.0
-                 : static_cast<int>(limited * options_.precision + 0.5) /
-                       static_cast<double>(options_.precision);
+    auto const [min, max] = options_.datarange;
+    double const scalar = clampToUnit((sample - min) / (max - min));
+    return min == max ? 0.0
+                      : static_cast<int>(scalar * options_.precision + 0.5) /
+                            static_cast<double>(options_.precision);
 }
 
 /// The map's domain spans the texture's 0 to 1.
 Tessar::rgba_float_t Slice::colourOf(double scalar) const {
-    double const least = map_->getMin();
-    return map_->getColor(least + (map_->getMax() - least) * scalar);
+    return map_->getColor(domainOf(*map_).at(scalar));
 }
 
 std::size_t Slice::index(int across, int along) const {

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "host/colormap/Colormap.hpp"
-#include "host/values/Range.hpp"
+#include "workbench/common/Interval.hpp"
+#include "workbench/scene/Field.hpp"
 #include "workbench/scene/Renderable.hpp"
-#include "workbench/scene/ScalarField.hpp"
 
 namespace workbench {
 
@@ -17,7 +17,7 @@ struct SliceOptions {
     SliceMode mode = SliceMode::Interpolated;
     int normal = 1;         ///< the axis across the plane: 0 x, 1 y, 2 z
     double position = 0.0;  ///< of the plane on that axis, kept inside the grid
-    Orlo::Range datarange;  ///< what the map's first and last colour stand for
+    Interval datarange;     ///< what the map's first and last colour stand for
     int precision = 255;    ///< steps of a texture's scalar between 0 and 1
     double opacity = 1.0;   ///< 0 to 1
 };
@@ -28,12 +28,12 @@ struct SliceOptions {
 /// is empty.
 class Slice : public Renderable {
 public:
-    Slice(ScalarField const& field, Orlo::ColormapPtr const& map, SliceOptions const& options);
+    Slice(Field const& field, Orlo::ColormapPtr const& map, SliceOptions const& options);
 
     std::optional<Fragment> meet(Ray const& ray) const override;
 
 private:
-    void sampleField(ScalarField const& field);
+    void sampleField(Field const& field);
     double texel(double sample) const;
     Tessar::rgba_float_t colourOf(double scalar) const;
     Tessar::rgba_float_t colourAt(double across, double along) const;

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "workbench/nodes/values.hpp"
+#include "workbench/scene/geometry.hpp"
 
 namespace workbench {
 
@@ -14,31 +14,16 @@ struct Ray {
     Point direction;
 };
 
-/// What the object "CameraControl" says, per viewer where a script sets it so.
-/// Its parameters, in their order:
-///
-/// | name       | text, by default | meaning                                          |
-/// |------------|------------------|--------------------------------------------------|
-/// | "observer" | `{0,2.4,1}`      | where the camera stands                          |
-/// | "lookat"   | `{0,0,0}`        | the point in the middle of the picture           |
-/// | "up"       | `{0,1,0}`        | the direction that is upward in the picture      |
-/// | "zoom"     | `45`             | vertical angle of view in degrees, 0.001 to 170; |
-/// |            |                  | smaller is closer                                |
-/// | "near"     | `0.02`           | least depth that is shown                        |
-/// | "far"      | `100`            | greatest depth that is shown                     |
-/// | "options"  | ` -Orthographic` | parallel rays; "lookat" is seen at the same size |
-/// | "time"     | `0[0,1]@0.1`     | for others; no picture depends on it             |
-///
-/// A camera that stands at the point it looks at looks along -z; one that looks
-/// along its "up" takes another axis for it.
+/// How a camera looks. One that stands at the point it looks at looks along -z;
+/// one that looks along its "up" takes another axis for it.
 struct View {
-    Point observer{0, 2.4, 1};
-    Point lookat{0, 0, 0};
-    Point up{0, 1, 0};
-    double zoom = 45.0;
-    double nearest = 0.02;
-    double farthest = 100.0;
-    bool orthographic = false;
+    Point observer{0, 2.4, 1};  ///< where the camera stands
+    Point lookat{0, 0, 0};      ///< the point in the middle of the picture
+    Point up{0, 1, 0};          ///< the direction that is upward in the picture
+    double zoom = 45.0;         ///< vertical angle in degrees, kept in 0.001 to 170
+    double nearest = 0.02;      ///< depths that are shown, from this one
+    double farthest = 100.0;    ///< to this one
+    bool orthographic = false;  ///< parallel rays; `lookat` is seen at the same size
 
     static constexpr char const* Description = "A View Object.";
 };

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "workbench/nodes/values.hpp"
 #include "workbench/picture/Image.hpp"
+#include "workbench/scene/geometry.hpp"
 
 namespace workbench {
 

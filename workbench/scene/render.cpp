@@ -2,9 +2,6 @@
 
 #include <algorithm>
 
-#include "workbench/common/errors.hpp"
-#include "workbench/nodes/Viewer.hpp"
-
 namespace workbench {
 
 namespace {
@@ -55,37 +52,10 @@ void drawSpace(Image& image, Shown const& shown, std::function<void(double)> con
     }
 }
 
-/// A number of pixels, or 0 if it is none that a picture can have.
-int pixelCount(double number) {
-    return number >= 1 && number <= Image::MostPixelsASide ? static_cast<int>(number) : 0;
-}
-
-Image emptyPicture(Viewer const& viewer, Shown const& shown) {
-    int const width = pixelCount(shown.size.first);
-    int const height = pixelCount(shown.size.second);
-    if (width == 0 || height == 0)
-        throw WorkError("the size of '" + viewer.Name() + "' is " +
-                        Orlo::VValueTrait<Pair>::Text(shown.size) + "; a picture has 1 to " +
-                        std::to_string(Image::MostPixelsASide) +
-                        " pixels a side, such as 1046x650");
-    return Image(width, height, opaque(shown.background));
-}
-
 }  // namespace
 
-bool isViewer(Orlo::VObject const& object) {
-    return dynamic_cast<Viewer const*>(&object) != nullptr;
-}
-
-Image render(Orlo::VObject& object, Orlo::PoolPtr const& pool,
-             std::function<void(double)> const& progress) {
-    auto* const viewer = dynamic_cast<Viewer*>(&object);
-    if (viewer == nullptr)
-        throw CallError("'" + object.Name() + "' is no viewer; only viewers make pictures");
-    Orlo::VRequest request(pool);
-    viewer->request(request, 0, nullptr, nullptr);
-    Shown const shown = viewer->shown(pool);
-    Image image = emptyPicture(*viewer, shown);
+Image render(Shown const& shown, std::function<void(double)> const& progress) {
+    Image image(shown.width, shown.height, opaque(shown.background));
     if (shown.scene) {
         drawSpace(image, shown, progress);
         for (RenderablePtr const& member : shown.scene->members)

@@ -1,24 +1,25 @@
-/// From a network to a picture.
+/// From a scene to a picture.
 #pragma once
 
 #include <functional>
 
-#include "host/object/VObject.hpp"
 #include "workbench/picture/Image.hpp"
+#include "workbench/scene/Renderable.hpp"
 
 namespace workbench {
 
-/// Whether the object is a viewer, of which `render` makes pictures. [any]
-bool isViewer(Orlo::VObject const& object);
+/// What a viewer shows at one time.
+struct Shown {
+    int width = 1046;  ///< pixels
+    int height = 650;
+    Tessar::rgba_float_t background;
+    View view;
+    ScenePtr scene;  ///< may be empty
+};
 
-/// The picture that a viewer shows, of the viewer's "size", with the values
-/// that hold in the pool. The viewer is requested first, and with it everything
-/// that its scene shows, so that all is up to date.
-///
-/// `progress` hears how much is done, from 0 to 1. Throws `CallError` if the
-/// object is no viewer, `WorkError` if its size is none that a picture can
-/// have. The same network gives the same bytes on every system. [host]
-Image render(Orlo::VObject& viewer, Orlo::PoolPtr const& pool,
-             std::function<void(double)> const& progress = {});
+/// Its picture. `progress` hears how much is done, from 0 to 1. Throws
+/// `std::invalid_argument` for a size that no picture has. The same scene gives
+/// the same bytes on every system. [any]
+Image render(Shown const& shown, std::function<void(double)> const& progress = {});
 
 }  // namespace workbench

@@ -2,10 +2,11 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <stdexcept>
-#include <string>
 
 #include "host/creators/VInitialization.hpp"
+#include "workbench/platform/Library.hpp"
 
 namespace workbench {
 
@@ -29,7 +30,7 @@ public:
     PluginFile(std::filesystem::path const& file, Orlo::VInitialization& host);
     PluginFile(PluginFile const&) = delete;
     PluginFile& operator=(PluginFile const&) = delete;
-    ~PluginFile();
+    ~PluginFile() = default;
 
     std::filesystem::path const& path() const noexcept { return path_; }
     /// The host's answer as it came back through the export.
@@ -37,8 +38,8 @@ public:
 
 private:
     std::filesystem::path path_;
-    void* library_ = nullptr;
-    int answer_ = 0;
+    std::unique_ptr<Library> library_;
+    int answer_;
 };
 
 /// The plug-in that was built beside this program.

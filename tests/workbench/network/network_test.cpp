@@ -7,8 +7,8 @@
 #include "tests/support/PluginTest.hpp"
 #include "workbench/common/errors.hpp"
 #include "workbench/common/files.hpp"
-#include "workbench/nodes/SceneCreators.hpp"
-#include "workbench/scene/render.hpp"
+#include "workbench/nodes/NodeCreators.hpp"
+#include "workbench/nodes/Viewer.hpp"
 
 namespace workbench {
 namespace {
@@ -67,7 +67,7 @@ protected:
         }
     }
 
-    SceneCreators kinds_;
+    NodeCreators kinds_;
     Network network_;
 };
 

@@ -3,9 +3,9 @@
 #include <stdexcept>
 
 #include "runtime/lattice/Catalogue.hpp"
-#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/Node.hpp"
+#include "workbench/nodes/Viewer.hpp"
 #include "workbench/nodes/hostObjects.hpp"
-#include "workbench/scene/render.hpp"
 #include "workbench/session/parameters.hpp"
 
 using namespace Orlo;

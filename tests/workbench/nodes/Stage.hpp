@@ -1,42 +1,18 @@
 /// A small network to try the objects of scenes in.
 #pragma once
 
-#include <functional>
 #include <map>
 #include <string>
 #include <vector>
 
 #include "host/object/Tincture.hpp"
 #include "host/values/TypedSlot.hpp"
+#include "tests/workbench/scene/telling.hpp"
+#include "workbench/nodes/Bundle.hpp"
+#include "workbench/nodes/NodeCreators.hpp"
 #include "workbench/nodes/Port.hpp"
-#include "workbench/nodes/SceneCreators.hpp"
-#include "workbench/picture/Image.hpp"
-#include "workbench/scene/ScalarField.hpp"
 
 namespace tests {
-
-/// A map whose colours tell the scalar that was looked up: red is the scalar,
-/// green its opposite, blue a constant. Alpha is 0, as in tables.
-class TellingMap : public Orlo::Colormap {
-public:
-    explicit TellingMap(double blue, int least = 0, int greatest = 1)
-        : blue_(blue), least_(least), greatest_(greatest) {}
-
-    int getMin() const override { return least_; }
-    int getMax() const override { return greatest_; }
-    int getSize() const override { return 256; }
-    Tessar::rgba_float_t getColor(double value) const override {
-        double const part = (value - least_) / (greatest_ - least_);
-        return {part, 1.0 - part, blue_, 0.0};
-    }
-    std::string getLabel() const override { return {}; }
-    std::intptr_t getExtra() const override { return 0; }
-
-private:
-    double blue_;
-    int least_;
-    int greatest_;
-};
 
 /// Provides a `TellingMap` and counts how often it was asked to.
 class MapSource : public Orlo::Tincture {
@@ -51,20 +27,6 @@ public:
 
 private:
     Orlo::TypedSlot<double> blue_{this, "blue", 0.5, 0};
-};
-
-/// A field whose samples a function gives.
-class FunctionField : public workbench::ScalarField {
-public:
-    using Function = std::function<double(int, int, int)>;
-
-    FunctionField(workbench::UniformGrid const& grid, Function function)
-        : ScalarField(grid), function_(std::move(function)) {}
-
-    double sample(int i, int j, int k) const override { return function_(i, j, k); }
-
-private:
-    Function function_;
 };
 
 /// Provides a field.
@@ -116,7 +78,7 @@ public:
     Nucleo::Intercube const context{};
 
 private:
-    workbench::SceneCreators creators_;
+    workbench::NodeCreators creators_;
     std::map<std::string, Orlo::ObjectPtr> objects_;
 };
 

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "tests/workbench/nodes/Stage.hpp"
-#include "workbench/nodes/Keeper.hpp"
-#include "workbench/scene/render.hpp"
+#include "workbench/nodes/Node.hpp"
+#include "workbench/nodes/Viewer.hpp"
 
 using namespace Orlo;
 using namespace workbench;

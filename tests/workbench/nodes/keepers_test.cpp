@@ -2,7 +2,7 @@
 
 #include "tests/workbench/nodes/Stage.hpp"
 #include "workbench/common/errors.hpp"
-#include "workbench/nodes/Keeper.hpp"
+#include "workbench/nodes/Node.hpp"
 #include "workbench/nodes/values.hpp"
 #include "workbench/session/parameters.hpp"
 

@@ -51,7 +51,7 @@ TEST(Kinds, EachHasItsParametersWithTheirDefaultsInOrder) {
 
 TEST(Kinds, TheCatalogueHasThemInThisOrderAsLongAsTheyStand) {
     {
-        workbench::SceneCreators const creators;
+        workbench::NodeCreators const creators;
         std::vector<WeakCreatorPtr> const entries = catalogue();
         ASSERT_EQ(entries.size(), kinds().size());
         for (std::size_t i = 0; i < entries.size(); ++i) {
@@ -67,7 +67,7 @@ TEST(Kinds, TheCatalogueHasThemInThisOrderAsLongAsTheyStand) {
 TEST(Kinds, TheirObjectsGoWithThem) {
     ObjectPtr object;
     {
-        workbench::SceneCreators const creators;
+        workbench::NodeCreators const creators;
         object = findCreator("Create/GlobalTime")->create("t", Nucleo::Intercube(), nullptr);
         EXPECT_TRUE(object);
     }

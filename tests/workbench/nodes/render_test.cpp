@@ -1,9 +1,8 @@
-#include "workbench/scene/render.hpp"
-
 #include <gtest/gtest.h>
 
 #include "tests/workbench/nodes/Stage.hpp"
 #include "workbench/common/errors.hpp"
+#include "workbench/nodes/Viewer.hpp"
 #include "workbench/scene/Renderable.hpp"
 
 using namespace Orlo;

@@ -12,12 +12,12 @@ namespace workbench {
 ///
 /// Its end deletes all their objects that are left, whoever holds them.
 /// Threads: construction and destruction are [host].
-class SceneCreators {
+class NodeCreators {
 public:
-    SceneCreators();
-    SceneCreators(SceneCreators const&) = delete;
-    SceneCreators& operator=(SceneCreators const&) = delete;
-    ~SceneCreators();
+    NodeCreators();
+    NodeCreators(NodeCreators const&) = delete;
+    NodeCreators& operator=(NodeCreators const&) = delete;
+    ~NodeCreators();
 
 private:
     struct Entries;

@@ -1,4 +1,4 @@
-#include "workbench/nodes/SceneCreators.hpp"
+#include "workbench/nodes/NodeCreators.hpp"
 
 #include <array>
 
@@ -6,13 +6,13 @@
 
 namespace workbench {
 
-struct SceneCreators::Entries {
+struct NodeCreators::Entries {
     std::array<Entry, 8> all{radialScalarFieldEntry(), gridEntry(),        scalarfieldEntry(),
                              orthoSliceEntry(),        colorLegendEntry(), showRangeEntry(),
                              globalTimeEntry(),        range100Entry()};
 };
 
-SceneCreators::SceneCreators() : entries_(std::make_unique<Entries>()) {}
-SceneCreators::~SceneCreators() = default;
+NodeCreators::NodeCreators() : entries_(std::make_unique<Entries>()) {}
+NodeCreators::~NodeCreators() = default;
 
 }  // namespace workbench

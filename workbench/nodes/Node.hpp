@@ -1,4 +1,4 @@
-/// Objects that keep whatever a script sets on them.
+/// The base of all nodes.
 #pragma once
 
 #include <string>
@@ -12,9 +12,9 @@ namespace workbench {
 /// lost.
 ///
 /// Threads: as `VObject`.
-class SceneObject : public Orlo::VObject {
+class Node : public Orlo::VObject {
 public:
-    SceneObject(std::string const& name, int kind, Orlo::PreferencesPtr const& preferences);
+    Node(std::string const& name, int kind, Orlo::PreferencesPtr const& preferences);
 
     /// Adds an input that the object was not made with; empty if it takes none
     /// of that name, as here. [host]
@@ -29,27 +29,6 @@ public:
 protected:
     /// An input that takes any output; nobody reads it.
     Orlo::SlotPtr makeAnyInput(std::string const& name);
-};
-
-/// Base of what the host brings along by itself: no creator makes these, and
-/// they take inputs of any name. Names of their outputs begin with two colons,
-/// so that scripts can use all others for parameters.
-class HostObject : public SceneObject {
-public:
-    explicit HostObject(std::string const& name);
-
-    Orlo::SlotPtr makeInput(std::string const& name) override;
-
-protected:
-    /// An output "::object" that says no more than that the object is there.
-    void makePresence();
-};
-
-/// A host object whose behaviour no picture needs: it keeps its parameters and
-/// connections, and provides its presence.
-class Keeper : public HostObject {
-public:
-    explicit Keeper(std::string const& name);
 };
 
 /// Whether the object takes parameters that it does not know. [any]

@@ -1,0 +1,11 @@
+#include "workbench/scene/Renderable.hpp"
+
+namespace workbench {
+
+std::optional<Fragment> Renderable::meet(Ray const&) const {
+    return std::nullopt;
+}
+
+void Renderable::drawOver(Image&) const {}
+
+}  // namespace workbench
