@@ -1,10 +1,10 @@
 /// `telmbench catalogue`: what the plug-in can make.
-#include "runtime/quartz/text.hpp"
 #include "workbench/cli/commands.hpp"
 #include "workbench/cli/json.hpp"
 #include "workbench/cli/table.hpp"
 #include "workbench/platform/StandardOutput.hpp"
 #include "workbench/session/Session.hpp"
+#include "workbench/session/entries.hpp"
 
 namespace workbench {
 
@@ -33,14 +33,11 @@ std::string joined(std::vector<std::string> const& words) {
 }
 
 Json entryAsJson(VCreatorBase const& entry) {
-    std::vector<std::string> tags;
-    for (std::string_view const tag : Orlo::splitWords(entry.get(VCreatorBase::Tags), ';'))
-        tags.emplace_back(tag);
     return {{"key", entry.keyname("/")},
             {"order", entry.orderNumber()},
             {"preferences", preferenceWords(entry)},
             {"description", entry.get(VCreatorBase::Description)},
-            {"tags", tags},
+            {"tags", tagsOf(entry)},
             {"source", entry.get(VCreatorBase::Source)},
             {"date", entry.get(VCreatorBase::Date)},
             {"todo", entry.get(VCreatorBase::Todo)}};

@@ -2,23 +2,18 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "runtime/quartz/text.hpp"
 #include "workbench/cli/Progress.hpp"
 #include "workbench/cli/commands.hpp"
 #include "workbench/common/errors.hpp"
-#include "workbench/common/files.hpp"
-#include "workbench/common/inQuotes.hpp"
-#include "workbench/gallery/page.hpp"
-#include "workbench/picture/png.hpp"
+#include "workbench/gallery/collect.hpp"
+#include "workbench/gallery/write.hpp"
 #include "workbench/platform/StandardOutput.hpp"
-#include "workbench/session/MapObject.hpp"
 
 namespace workbench {
 
 namespace {
 
 namespace fs = std::filesystem;
-using Orlo::VCreatorBase;
 
 constexpr char Examples[] = R"(Examples:
   telmbench gallery -o maps
@@ -30,83 +25,19 @@ constexpr char Examples[] = R"(Examples:
 The files written are listed at the end. Files of these names that stood there
 are replaced, all others are left alone.)";
 
-constexpr int PictureHeight = 128;
-
-/// Says which setting a map does not take, and goes on: a plug-in may have a map
-/// of a known key with parameters of its own.
-void reportLeftOut(std::string const& key, TellingSetting const& setting, CallError const& error) {
-    std::fprintf(stderr, "telmbench: %s: '%s' is left out: %s\n", key.c_str(),
-                 setting.caption.c_str(), error.what());
-}
-
-std::vector<Variant> variantsOf(Session const& session, std::string const& key) {
-    std::vector<Variant> variants;
-    for (TellingSetting const& setting : tellingSettings(key)) {
-        try {
-            MapObject const subject(session, key, setting.assignments);
-            variants.push_back({setting, sample(subject.map(), RampColumns)});
-        } catch (CallError const& error) {
-            reportLeftOut(key, setting, error);
-        }
-    }
-    return variants;
-}
-
-std::vector<std::string> tagsOf(VCreatorBase const& entry) {
-    std::vector<std::string> tags;
-    for (std::string_view const tag : Orlo::splitWords(entry.get(VCreatorBase::Tags), ';'))
-        tags.emplace_back(tag);
-    return tags;
-}
-
-Exhibit exhibitOf(Session const& session, VCreatorBase const& entry) {
-    std::string const key = entry.keyname("/");
-    MapObject const subject(session, key);
-    return {.key = key,
-            .description = entry.get(VCreatorBase::Description),
-            .source = entry.get(VCreatorBase::Source),
-            .tags = tagsOf(entry),
-            .size = subject.map().getSize(),
-            .parameters = parametersOf(subject.object()),
-            .samples = sample(subject.map(), RampColumns),
-            .variants = variantsOf(session, key)};
-}
-
 /// Looks everything up. The plug-in may write lines of its own meanwhile, so
 /// that there is no line of progress yet.
 std::vector<Exhibit> collect(SessionOptions const& common) {
     Session const session(common);
-    std::vector<Exhibit> exhibits;
-    for (auto const& entry : session.entries())
-        exhibits.push_back(exhibitOf(session, *entry));
-    return exhibits;
+    return exhibitsOf(session, [](std::string const& remark) {
+        std::fprintf(stderr, "telmbench: %s\n", remark.c_str());
+    });
 }
 
-void makeFolder(fs::path const& folder) {
-    std::error_code error;
-    fs::create_directories(folder, error);
-    if (!fs::is_directory(folder))
-        throw WorkError("cannot make the folder " + inQuotes(folder.string(), 1000) + ": " +
-                        (error ? error.default_error_condition().message()
-                               : std::string("there is a file of that name")));
-}
-
-/// Writes the pictures, and the page last, so that it never shows what is not
-/// there yet. Gives the files written.
-std::vector<fs::path> writeGallery(std::vector<Exhibit> const& exhibits, fs::path const& folder) {
+std::vector<fs::path> write(std::vector<Exhibit> const& exhibits, fs::path const& folder) {
     Progress progress("drawing the maps");
-    std::vector<std::string> const words = wordsFor(exhibits);
-    std::vector<fs::path> files;
-    std::string sections;
-    for (std::size_t i = 0; i < exhibits.size(); ++i) {
-        progress.show(static_cast<double>(i) / static_cast<double>(exhibits.size()));
-        files.push_back(folder / pictureName(words[i]));
-        writePng(files.back(), rampOf(exhibits[i].samples, PictureHeight));
-        sections += section(exhibits[i], words[i]);
-    }
-    files.push_back(folder / "index.html");
-    writeFile(files.back(), page(exhibits, words, sections, "telmbench " PRISM_VERSION));
-    return files;
+    return writeGallery(exhibits, folder, "telmbench " PRISM_VERSION,
+                        [&](double part) { progress.show(part); });
 }
 
 void run(SessionOptions const& common, std::string const& folder) {
@@ -114,8 +45,7 @@ void run(SessionOptions const& common, std::string const& folder) {
         throw CallError("the folder to write has no name; -o DIR names it");
     StandardOutput output(true);
     std::vector<Exhibit> const exhibits = collect(common);
-    makeFolder(folder);
-    for (fs::path const& file : writeGallery(exhibits, folder))
+    for (fs::path const& file : write(exhibits, folder))
         output.write(fs::path(file).make_preferred().string() + "\n");
 }
 

@@ -1,4 +1,6 @@
 /// `telmbench ramp`: a whole map as a picture.
+#include "workbench/picture/ramp.hpp"
+
 #include "workbench/cli/commands.hpp"
 #include "workbench/cli/numbers.hpp"
 #include "workbench/common/paths.hpp"
@@ -25,22 +27,12 @@ struct Arguments {
     std::string file;
 };
 
-Image drawRamp(Orlo::Colormap const& map, Size size) {
-    Image image(size.width, size.height);
-    double const least = map.getMin();
-    double const extent = map.getMax() - least;
-    for (int x = 0; x < size.width; ++x) {
-        double const value = least + extent * (x + 0.5) / size.width;
-        image.fill(x, 0, 1, size.height, opaque(map.getColor(value)));
-    }
-    return image;
-}
-
 void run(SessionOptions const& common, Arguments const& given) {
     Size const size = readSize(given.size);
     Session const session(common);
     MapObject const subject(session, given.key, given.settings);
-    writePng(pathOf(given.file), drawRamp(subject.map(), size));
+    writePng(pathOf(given.file),
+             rampOf(sample(subject.map(), static_cast<std::size_t>(size.width)), size.height));
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <set>
 
+#include "workbench/session/entries.hpp"
+
 namespace workbench {
 
 namespace {
@@ -24,10 +26,6 @@ std::string lower(std::string word) {
 }
 
 }  // namespace
-
-std::string nameIn(std::string const& key) {
-    return key.substr(key.rfind('/') + 1);
-}
 
 std::vector<std::string> wordsFor(std::vector<Exhibit> const& exhibits) {
     std::set<std::string> taken{"top"};  // the page's own anchor

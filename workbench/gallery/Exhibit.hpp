@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "workbench/gallery/Samples.hpp"
 #include "workbench/gallery/tellingSettings.hpp"
+#include "workbench/picture/ramp.hpp"
 #include "workbench/session/ParameterFacts.hpp"
 
 namespace workbench {
@@ -27,9 +27,6 @@ struct Exhibit {
     Samples samples;  ///< with the defaults
     std::vector<Variant> variants;
 };
-
-/// The name in a key: what stands behind its last slash.
-std::string nameIn(std::string const& key);
 
 /// For each exhibit a word of letters, digits and hyphens that no other one has,
 /// in either case of the letters; for links and for names of files.

@@ -3,9 +3,11 @@
 #include <cmath>
 
 #include "workbench/gallery/Deficiency.hpp"
+#include "workbench/gallery/Span.hpp"
 #include "workbench/gallery/html.hpp"
 #include "workbench/gallery/plot.hpp"
 #include "workbench/gallery/style.hpp"
+#include "workbench/session/entries.hpp"
 
 namespace workbench {
 
@@ -63,7 +65,8 @@ std::string fact(std::string const& name, std::string const& text) {
 
 std::string facts(Exhibit const& exhibit) {
     Samples const& samples = exhibit.samples;
-    std::string list = fact("Range", readable(samples.least) + " to " + readable(samples.greatest));
+    std::string list =
+        fact("Range", readable(samples.domain.min) + " to " + readable(samples.domain.max));
     list += fact("Entries", std::to_string(exhibit.size));
     list += fact("Components", spanText(componentSpan(samples), 1000.0));
     list += fact("Lightness", spanText(lightnessSpan(samples), 10.0));

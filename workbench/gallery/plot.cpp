@@ -10,6 +10,7 @@
 #include "workbench/gallery/Curve.hpp"
 #include "workbench/gallery/Light.hpp"
 #include "workbench/gallery/PlotScale.hpp"
+#include "workbench/gallery/Span.hpp"
 #include "workbench/gallery/html.hpp"
 
 namespace workbench {
@@ -125,8 +126,7 @@ std::string lightnessPlot(Samples const& samples) {
         content += label(part == 0.0   ? "first"
                          : part == 1.0 ? "last"
                                        : "middle",
-                         part * Width, bottom + 15,
-                         readable(samples.least + part * (samples.greatest - samples.least)));
+                         part * Width, bottom + 15, readable(samples.domain.at(part)));
     return drawing("Lightness over the range", bottom + RangeHeight, content);
 }
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "workbench/gallery/Samples.hpp"
+#include "workbench/picture/ramp.hpp"
 
 namespace workbench {
 

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "host/values/VValue.hpp"
-#include "runtime/lattice/Catalogue.hpp"
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/common/nearest.hpp"
@@ -14,6 +13,7 @@
 #include "workbench/nodes/Viewer.hpp"
 #include "workbench/nodes/hostObjects.hpp"
 #include "workbench/nodes/values.hpp"
+#include "workbench/session/objects.hpp"
 #include "workbench/session/parameters.hpp"
 
 namespace workbench {
@@ -66,23 +66,6 @@ void checkAttribute(string const& name, string const& text) {
         if (!read<double>(text))
             throw CallError(inQuotes(text) + " is no number, which " + name + " must be");
     }
-}
-
-/// The keys whose names are like that of an unknown one, as the end of a
-/// message. The folders do not count: most keys share one.
-string keySuggestion(string const& unknown) {
-    auto const nameOf = [](string const& key) { return key.substr(key.rfind('/') + 1); };
-    std::map<string, string> keys;
-    std::vector<string> names;
-    for (Orlo::WeakCreatorPtr const& creator : Orlo::catalogue()) {
-        string const key = creator->keyname("/");
-        names.push_back(nameOf(key));
-        keys.emplace(nameOf(key), key);
-    }
-    string text;
-    for (string const& name : nearest(nameOf(unknown), names))
-        text += (text.empty() ? "; near it is " : " and ") + inQuotes(keys.at(name));
-    return text.empty() ? "; a plug-in that provides it must be loaded" : text;
 }
 
 Orlo::SlotPtr findParameter(Orlo::VObject const& object, string const& name) {
@@ -223,11 +206,7 @@ void Network::apply(CreationLine const& line) {
     if (objects_.contains(line.object))
         throw CallError("there is an object " + inQuotes(line.object) + " already; '<>" +
                         line.object + "' before this line deletes it");
-    Orlo::WeakCreatorPtr const creator = Orlo::findCreator(line.key);
-    if (!creator)
-        throw CallError("the catalogue has no entry " + inQuotes(line.key) +
-                        keySuggestion(line.key));
-    objects_[line.object] = creator->create(line.object, *this, nullptr);
+    objects_[line.object] = create(line.key, line.object, nullptr, *this);
     missing_.erase(line.object);
 }
 

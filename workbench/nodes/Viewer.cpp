@@ -2,6 +2,7 @@
 
 #include "workbench/common/errors.hpp"
 #include "workbench/nodes/kinds.hpp"
+#include "workbench/session/objects.hpp"
 
 namespace workbench {
 
@@ -44,8 +45,7 @@ Image render(Orlo::VObject& object, Orlo::PoolPtr const& pool,
     auto* const viewer = dynamic_cast<Viewer*>(&object);
     if (viewer == nullptr)
         throw CallError("'" + object.Name() + "' is no viewer; only viewers make pictures");
-    Orlo::VRequest request(pool);
-    viewer->request(request, 0, nullptr, nullptr);
+    request(*viewer, pool);
     return render(viewer->shown(pool), progress);
 }
 

@@ -2,6 +2,7 @@
 
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
+#include "workbench/session/objects.hpp"
 #include "workbench/session/parameters.hpp"
 
 namespace workbench {
@@ -15,15 +16,6 @@ void applySetting(Orlo::VObject& object, std::string const& setting) {
     setParameter(object, setting.substr(0, sign), setting.substr(sign + 1));
 }
 
-/// The map in the first output that holds one; empty if none does.
-Orlo::ColormapPtr publishedMap(Orlo::VObject const& object, Orlo::PoolPtr const& pool) {
-    Orlo::ColormapPtr map;
-    for (Orlo::SlotPtr const& slot : object.slots())
-        if (!slot->isInput() && Orlo::readParameter(*slot->parameter(), pool, map) && map)
-            return map;
-    return {};
-}
-
 }  // namespace
 
 MapObject::MapObject(Session const& session, std::string const& key,
@@ -34,9 +26,7 @@ MapObject::MapObject(Session const& session, std::string const& key,
     object_ = entry->create("", Nucleo::Intercube(), nullptr);
     for (std::string const& setting : settings)
         applySetting(*object_, setting);
-    Orlo::VRequest request(pool_);
-    object_->request(request, 0, nullptr, nullptr);
-    map_ = publishedMap(*object_, pool_);
+    map_ = update(*object_, pool_);
     if (!map_)
         throw WorkError("the entry " + inQuotes(key_) + " publishes no colour map");
 }

@@ -6,6 +6,7 @@
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/common/nearest.hpp"
+#include "workbench/session/entries.hpp"
 
 namespace workbench {
 
@@ -26,10 +27,6 @@ std::vector<Orlo::WeakCreatorPtr> entriesFrom(std::size_t first) {
     return all;
 }
 
-std::string withoutFolder(std::string const& key) {
-    return key.substr(key.rfind('/') + 1);
-}
-
 }  // namespace
 
 Session::Session(SessionOptions const& options)
@@ -43,12 +40,12 @@ Orlo::WeakCreatorPtr Session::find(std::string const& key) const {
         if (entry->keyname("/") == key)
             return entry;
     for (auto const& entry : entries_)
-        if (withoutFolder(entry->keyname("/")) == key)
+        if (nameIn(entry->keyname("/")) == key)
             return entry;
     bool const full = key.find('/') != std::string::npos;
     std::vector<std::string> names;
     for (auto const& entry : entries_)
-        names.push_back(full ? entry->keyname("/") : withoutFolder(entry->keyname("/")));
+        names.push_back(full ? entry->keyname("/") : nameIn(entry->keyname("/")));
     throw CallError("there is no entry " + inQuotes(key) +
                     suggestion(key, names, "; 'telmbench catalogue' lists them"));
 }

@@ -10,12 +10,6 @@ Exhibit withKey(std::string const& key) {
     return {key, {}, {}, {}, 0, {}, {}, {}};
 }
 
-TEST(NameIn, IsWhatStandsBehindTheLastSlash) {
-    EXPECT_EQ(nameIn("Colormaps/Glow"), "Glow");
-    EXPECT_EQ(nameIn("a/b/c"), "c");
-    EXPECT_EQ(nameIn("Glow"), "Glow");
-}
-
 TEST(WordsFor, ServeAsNamesOfFilesEverywhere) {
     std::vector<Exhibit> exhibits;
     for (char const* const key : {"Colormaps/Glow", "Other/glow", "Other/GLOW", "A/a b",

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tests/workbench/gallery/sampleMaps.hpp"
+#include "tests/workbench/picture/sampleMaps.hpp"
 #include "workbench/gallery/html.hpp"
 
 namespace {

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tests/workbench/gallery/sampleMaps.hpp"
+#include "tests/workbench/picture/sampleMaps.hpp"
 
 namespace {
 
@@ -61,8 +61,8 @@ TEST(LightnessPlot, RunsFromBlackToWhite) {
 
 TEST(LightnessPlot, TellsTheRangeOfTheMap) {
     Samples samples = ordinary;
-    samples.least = -1.0;
-    samples.greatest = 3.0;
+    samples.domain.min = -1.0;
+    samples.domain.max = 3.0;
     std::string const plot = lightnessPlot(samples);
     for (char const* const label :
          {R"(class="first" x="0")", ">−1</text>", ">0</text>", ">1</text>", ">2</text>",

@@ -1,11 +1,9 @@
 #include "tests/workbench/nodes/Stage.hpp"
 
-#include <stdexcept>
-
-#include "runtime/lattice/Catalogue.hpp"
 #include "workbench/nodes/Node.hpp"
 #include "workbench/nodes/Viewer.hpp"
 #include "workbench/nodes/hostObjects.hpp"
+#include "workbench/session/objects.hpp"
 #include "workbench/session/parameters.hpp"
 
 using namespace Orlo;
@@ -42,10 +40,7 @@ Stage::Stage() = default;
 Stage::~Stage() = default;
 
 VObject& Stage::make(std::string const& key, std::string const& name) {
-    StrongPtr<VCreatorBase, VManagedObjectBase> const creator(findCreator(key));
-    if (!creator)
-        throw std::invalid_argument("nobody provides " + key);
-    return add(name, creator->create(name, context, nullptr));
+    return add(name, workbench::create(key, name, nullptr, context));
 }
 
 VObject& Stage::host(std::string const& name, std::string const& kind) {

@@ -11,6 +11,8 @@
 #include "workbench/nodes/Bundle.hpp"
 #include "workbench/nodes/NodeCreators.hpp"
 #include "workbench/nodes/Port.hpp"
+#include "workbench/picture/Image.hpp"
+#include "workbench/session/objects.hpp"
 
 namespace tests {
 
@@ -89,8 +91,7 @@ std::vector<std::string> slotTexts(Orlo::VObject const& object);
 /// What an output of an object holds in a pool, after a request.
 template <class T>
 T provided(Orlo::VObject& object, std::string const& output, Orlo::PoolPtr const& pool) {
-    Orlo::VRequest request(pool);
-    object.request(request, 0, nullptr, nullptr);
+    workbench::request(object, pool);
     T value{};
     Orlo::readParameter(*object.slot(output)->parameter(), pool, value);
     return value;

@@ -138,7 +138,7 @@ TEST(Slices, SamplesAreMappedLimitedAndRounded) {
             options.mode = mode;
             Slice const slice(constant, new TellingMap(0), options);
             EXPECT_EQ(shownAt(slice, 1, 0.3, -0.2), double{static_cast<float>(each.expected)})
-                << each.sample << " in " << each.datarange.minimum << "," << each.datarange.maximum;
+                << each.sample << " in " << each.datarange.min << "," << each.datarange.max;
         }
     }
 }

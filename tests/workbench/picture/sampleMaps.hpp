@@ -1,9 +1,9 @@
-/// Colours for the tests of the page.
+/// Maps and colours for tests.
 #pragma once
 
 #include <limits>
 
-#include "workbench/gallery/Samples.hpp"
+#include "workbench/picture/ramp.hpp"
 
 namespace tests {
 
@@ -22,7 +22,7 @@ public:
 };
 
 inline workbench::Samples samplesOf(std::vector<Orlo::rgba_float_t> const& colours) {
-    return {0.0, 1.0, colours};
+    return {{0.0, 1.0}, colours};
 }
 
 }  // namespace tests

@@ -1,4 +1,4 @@
-#include "workbench/gallery/Samples.hpp"
+#include "workbench/gallery/Span.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -29,25 +29,6 @@ private:
 };
 
 }  // namespace
-
-Samples sample(Orlo::Colormap const& map, std::size_t count) {
-    Samples samples{double(map.getMin()), double(map.getMax()), {}};
-    double const extent = samples.greatest - samples.least;
-    samples.colours.reserve(count);
-    for (std::size_t i = 0; i < count; ++i)
-        samples.colours.push_back(map.getColor(
-            samples.least + extent * (static_cast<double>(i) + 0.5) / static_cast<double>(count)));
-    return samples;
-}
-
-Image rampOf(Samples const& samples, int height,
-             std::function<Orlo::rgba_float_t(Orlo::rgba_float_t const&)> const& changed) {
-    Image image(static_cast<int>(samples.colours.size()), height);
-    int x = 0;
-    for (Orlo::rgba_float_t const& colour : samples.colours)
-        image.fill(x++, 0, 1, height, opaque(changed ? changed(colour) : colour));
-    return image;
-}
 
 Span componentSpan(Samples const& samples) {
     SpanCollector collector;
