@@ -7,6 +7,7 @@
 /// description and nothing else.
 #pragma once
 
+#include <functional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -68,6 +69,8 @@ struct CycleRow {
     bool publishesAtEnd = true;
     Foreign foreign = Foreign::OfferedBack;
     bool ownMustUpdate = false;
+    /// The parameters as an update reads them, where that is not their order.
+    std::vector<std::string> reads = {};
     /// A setting that changes the map, for what is to be seen of a change.
     std::vector<Setting> change = {};
 };
@@ -112,8 +115,18 @@ struct DescribedMap {
     explicit DescribedMap(MapDescription description);
 };
 
-/// The rows of a table map, as lookups: row k is reached by the scalar k/N, and
-/// by the scalars just inside both of its edges.
+/// The bands of a table's rows, as lookups: row k is reached by the scalar k/N,
+/// and by the scalars just inside both of its edges.
+std::vector<LookupRow> bandsOf(std::vector<Tessar::rgba_float_t> const& table);
+
+/// The edges of a table's rows, as lookups: the two neighbouring numbers between
+/// which the place in the table, rising or falling with the scalar and truncated,
+/// gets from one row to the next.
+std::vector<LookupRow> edgesOf(std::vector<Tessar::rgba_float_t> const& table,
+                               std::vector<Setting> const& settings,
+                               std::function<double(double)> const& place);
+
+/// The bands and the edges of a map under the table rule.
 std::vector<LookupRow> rowsOf(std::vector<Tessar::rgba_float_t> const& table);
 
 /// One list behind another.

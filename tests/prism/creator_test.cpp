@@ -82,6 +82,33 @@ TEST_P(Creator, UnitesItsPreferencesWithThoseGiven) {
     }
 }
 
+/// Whether an object is made with the second pair of default colours, which is
+/// asked of the united words.
+struct WordRow {
+    std::string entry, given;
+    bool second;
+};
+
+class WordGiven : public PluginTest, public testing::WithParamInterface<WordRow> {};
+
+TEST_P(WordGiven, ChoosesTheDefaultsTogetherWithTheEntrysOwn) {
+    WordRow const& row = GetParam();
+    ObjectPtr const object =
+        create("Colormaps/" + row.entry, "", new VCreationPreferences(row.given));
+    EXPECT_EQ(object->slot("startcolor")->parameter()->DefaultValue()->text(),
+              row.second ? "(0.99215686,0.8156863,0.13725491,1)" : "(1,0,0,1)");
+    EXPECT_EQ(object->slot("endcolor")->parameter()->DefaultValue()->text(),
+              row.second ? "(0.27450982,0.11372549,0.4862745,1)" : "(0,1,0,1)");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Words, WordGiven,
+    testing::Values(WordRow{"RedGreen", "muv", true}, WordRow{"RedGreen", "ort", false},
+                    WordRow{"RedGreen", "Muv", false}, WordRow{"Muv", "redgreen", true},
+                    WordRow{"LogRedGreen", "ort", true}, WordRow{"LogRedGreen", "muv", false},
+                    WordRow{"Ort", "redgreen", true}),
+    [](auto const& row) { return row.param.entry + "_with_" + row.param.given; });
+
 TEST_P(Creator, NamesChildrenAfterTheirParent) {
     EXPECT_EQ(creator().createChildname("Slice"), GetParam().name + "_for_Slice");
     EXPECT_EQ(creator().createChildname(""), GetParam().name);

@@ -1,26 +1,18 @@
 /// The update cycle: the common path, and each map's departures from it.
 #include <gtest/gtest.h>
 
+#include "host/values/VValueParameter.hpp"
+#include "tests/prism/ForeignMap.hpp"
 #include "tests/prism/MapDescription.hpp"
 #include "tests/support/PluginTest.hpp"
 #include "tests/support/RecordingOutput.hpp"
+#include "tests/support/RecordingSpeaker.hpp"
 
 namespace tests {
 namespace {
 
 using namespace Orlo;
 using Nucleo::Ageable;
-
-/// A map that no object of the library has made.
-class ForeignMap : public Colormap {
-public:
-    int getMin() const override { return 0; }
-    int getMax() const override { return 1; }
-    int getSize() const override { return 2; }
-    rgba_float_t getColor(double) const override { return {0.25, 0.5, 0.75, 1}; }
-    std::string getLabel() const override { return {}; }
-    std::intptr_t getExtra() const override { return 0; }
-};
 
 /// An object of the entry with a recording output in a pool.
 class Update : public PluginTest, public testing::WithParamInterface<MapDescription> {
@@ -202,6 +194,30 @@ TEST_P(Update, TreatsAForeignMapAsItsRuleSays) {
     }
 }
 
+TEST_P(Update, TellsNobodyIfTheOutputHasNoValueForMaps) {
+    PoolPtr const pool = makePool("other");
+    VParameter const& output = *tincture(*object_).output();
+    ValuePtr const number = new VValue<int>(7);
+    output.addShadow(pool);
+    pool->createVariable(output, number);
+    EXPECT_TRUE(forceUpdate(*object_, pool));
+    EXPECT_EQ(output_->notifications(), 0);
+    EXPECT_EQ(pool->retrieveValue(output.Name()).get(), number.get());
+    EXPECT_EQ(number->text(), "7");
+}
+
+TEST_P(Update, MakesANewMapInThePlaceOfADyingOne) {
+    RecordingSpeaker const quiet;
+    ColormapPtr const dying = new ForeignMap;
+    update(*object_, pool_);
+    output_->place(dying);
+    delete dying.get();  // as an unload deletes what others still hold
+    EXPECT_EQ(mustUpdate(), cycle().ownMustUpdate);
+    forceUpdate(*object_, pool_);
+    EXPECT_TRUE(output_->map());
+    EXPECT_FALSE(mustUpdate());
+}
+
 TEST_P(Update, IsDueOnAFreshObjectAndNotAfterAnUpdate) {
     EXPECT_TRUE(mustUpdate());
     update(*object_, pool_);
@@ -217,9 +233,11 @@ TEST_P(Update, OfAnObjectWithItsOwnRuleIsDueOnlyWithoutAMap) {
         EXPECT_FALSE(mustUpdate()) << "any map will do";
         output_->place(nullptr);
         EXPECT_TRUE(mustUpdate());
-    } else if (!cycle().change.empty()) {
+    } else {
+        output_->place(nullptr);
+        EXPECT_FALSE(mustUpdate()) << "the host's own rule does not look at the map";
         change();
-        EXPECT_TRUE(mustUpdate()) << "the host's own rule knows of the change";
+        EXPECT_EQ(mustUpdate(), !cycle().change.empty()) << "but knows of the change";
     }
 }
 
@@ -292,6 +310,83 @@ TEST_P(ChangedUpdate, ReplacesEvenAForeignMapIfItReplaces) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Maps, ChangedUpdate, testing::ValuesIn(changingMaps()), nameOf);
+
+/// Maps that take the age of the parameters.
+std::vector<MapDescription> raisedMaps() {
+    std::vector<MapDescription> maps;
+    for (MapDescription const& map : describedMaps())
+        if (map.cycle.age == Age::Raised || map.cycle.age == Age::RaisedThenTouched)
+            maps.push_back(map);
+    return maps;
+}
+
+class RaisedUpdate : public Update {
+protected:
+    /// The age of a map after an update, or where a touch follows, before that.
+    Ageable::Stamp ageGiven(ColormapPtr const& map) {
+        output_->clear();
+        forceUpdate(*object_, pool_);
+        return cycle().age == Age::Raised ? map->age() : output_->offers().back().mapAge;
+    }
+};
+
+TEST_P(RaisedUpdate, RaisesTheAgeOfAForeignMapToo) {
+    update(*object_, pool_);
+    ColormapPtr const foreign = new ForeignMap;
+    Ageable::Stamp const before = foreign->age();
+    output_->place(foreign);
+    change();
+    ASSERT_GT(object_->age(pool_), before);
+    EXPECT_EQ(ageGiven(foreign), object_->age(pool_));
+}
+
+TEST_P(RaisedUpdate, NeverLowersTheAge) {
+    update(*object_, pool_);
+    ColormapPtr const map = output_->map();
+    Ageable::Stamp const late = Ageable::now() + 100;
+    map->setAge(late);
+    EXPECT_EQ(ageGiven(map), late);
+}
+
+TEST_P(RaisedUpdate, LeavesTheAgeWhereNoParameterHasChanged) {
+    update(*object_, pool_);
+    ColormapPtr const map = output_->map();
+    Ageable::Stamp const age = map->age();
+    Ageable::GlobalTime.fetch_add(10);
+    EXPECT_EQ(ageGiven(map), age);
+}
+
+INSTANTIATE_TEST_SUITE_P(Maps, RaisedUpdate, testing::ValuesIn(raisedMaps()), nameOf);
+
+/// Two objects ask one of their slots for its age by itself. It differs from the
+/// container's where another slot has taken the name.
+struct AgedSlot {
+    std::string key, slot;
+};
+
+class SlotAge : public PluginTest, public testing::WithParamInterface<AgedSlot> {};
+
+TEST_P(SlotAge, RaisesThatOfTheMapByItself) {
+    ObjectPtr const object = create(GetParam().key);
+    PoolPtr const pool = makePool();
+    RecordingOutput output(*object, pool);
+    ColormapPtr const map = update(*object, pool);
+    SlotPtr const slot = object->slot(GetParam().slot);
+    VSlotGlobals::addParameter(object.get(), GetParam().slot, 0, slot->ownParameter()->copy(),
+                               true);
+    ASSERT_NE(object->slot(GetParam().slot).get(), slot.get());
+    slot->ownParameter()->touch();
+    ASSERT_GT(slot->age(pool), object->age(pool));
+    output.clear();
+    forceUpdate(*object, pool);
+    EXPECT_EQ(output.offers().empty() ? map->age() : output.offers().back().mapAge,
+              slot->age(pool));
+}
+
+INSTANTIATE_TEST_SUITE_P(Maps, SlotAge,
+                         testing::Values(AgedSlot{"Colormaps/Glow", "inverted"},
+                                         AgedSlot{"Colormaps/ZeroInfinity", "range"}),
+                         [](auto const& each) { return testName(each.param.key); });
 
 }  // namespace
 }  // namespace tests

@@ -3,8 +3,11 @@
 
 #include <limits>
 
+#include "tests/prism/ForeignMap.hpp"
 #include "tests/prism/parameterRow.hpp"
 #include "tests/support/PluginTest.hpp"
+#include "tests/support/RecordingOutput.hpp"
+#include "tests/support/writtenBytes.hpp"
 
 namespace tests {
 namespace {
@@ -125,6 +128,25 @@ TEST_F(BigColorMap, SaysTheNumberOfItsColoursAtEachUpdateAndOverrulesTheSteps) {
         EXPECT_EQ(published->getSize(), 61);
         EXPECT_EQ(object->slot("steps")->parameter()->ownValue()->text(), steps);
     }
+}
+
+TEST_F(BigColorMap, LetsItsLineOutAtOnce) {
+    Orlo::ObjectPtr const object = create("Colormaps/BigColorMap");
+    testing::internal::CaptureStdout();
+    update(*object, makePool());
+    std::size_t const written = writtenBytes();
+    std::string const line = testing::internal::GetCapturedStdout();
+    EXPECT_GE(written, line.size()) << "the program has not flushed it";
+}
+
+TEST_F(BigColorMap, SaysNothingOfAForeignMap) {
+    Orlo::ObjectPtr const object = create("Colormaps/BigColorMap");
+    Orlo::PoolPtr const pool = makePool();
+    RecordingOutput output(*object, pool);
+    output.place(new ForeignMap);
+    testing::internal::CaptureStdout();
+    forceUpdate(*object, pool);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
 }
 
 }  // namespace

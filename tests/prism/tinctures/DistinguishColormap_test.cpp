@@ -51,10 +51,16 @@ std::vector<rgba_float_t> const UnderD65 = colors(30, {{0, 29, 0},
 rgba_float_t const Red{1, 0, 0, 1}, Green{0, 1, 0, 1}, Blue{0, 0, 1, 1}, Cyan{0, 1, 1, 1},
     Magenta{1, 0, 1, 1}, Yellow{1, 1, 0, 1}, White{1, 1, 1, 1}, Black{0, 0, 0, 1};
 
+/// Ten colours: the nearest entry, where a half belongs to the upper one.
+double nearestEntry(double value) {
+    double const volatile product = value * 10.0;
+    return product + 0.49999999999999994;
+}
+
 /// The whole table, each entry looked up at its centre.
 std::vector<LookupRow> tableOf(std::string const& rule, std::vector<Setting> const& settings,
                                std::vector<rgba_float_t> const& table) {
-    std::vector<LookupRow> rows = rowsOf(table);
+    std::vector<LookupRow> rows = bandsOf(table);
     std::erase_if(rows, [](LookupRow const& row) { return !row.rule.ends_with("k/N"); });
     for (LookupRow& row : rows) {
         row.rule = rule + ": " + row.rule;
@@ -92,7 +98,8 @@ DescribedMap const description{{
              "as matlab implementation   'Generate maximally perceptually distinct colors' by Odo "
              "Renn. Reference: <A HREF=\"https://en.wikipedia.org/wiki/Color_difference\">Generate "
              "maximally perceptually-distinct colors</A>"},
-    .lookups = rowsOf(UnderD50) + tableOf("D65", {{"Standard Illumiant", "D65"}}, UnderD65) +
+    .lookups = bandsOf(UnderD50) + edgesOf(UnderD50, {}, nearestEntry) +
+               tableOf("D65", {{"Standard Illumiant", "D65"}}, UnderD65) +
                tableOf("more colours than candidates", Eight,
                        {Green, Blue, Red, Cyan, Yellow, Magenta, White, White, White, White}) +
                tableOf("black and white backgrounds",

@@ -30,35 +30,41 @@ std::vector<Setting> const Off{{"options", " -inverse"}};
 /// All tints over the values 0 to 1.
 std::vector<LookupRow> allTints() {
     auto const row = [](std::size_t k) { return Tints[k]; };
-    return rowsOf(Tints) + std::vector<LookupRow>{
-                               {"zero is row 0", Off, 0.0, row(0)},
-                               {"below 0.025 is row 0", {}, 0.0249, row(0)},
-                               {"from 0.025 on is row 1", {}, 0.0251, row(1)},
-                               {"0.025 itself is row 1", {}, 0.025, row(1)},
-                               {"the land begins at 0.475", {}, 0.475, row(10)},
-                               {"the water ends at 0.475", {}, 0.4749, row(9)},
-                               {"a half is row 10", {}, 0.5, row(10)},
-                               {"from 0.925 on is row 19", {}, 0.925, row(19)},
-                               {"below 0.925 is row 18", {}, 0.9249, row(18)},
-                               {"one is 20.5, limited to row 19", {}, 1.0, row(19)},
-                               {"below zero is row 0", {}, -0.5, row(0)},
-                               {"above one is row 19", {}, 1.5, row(19)},
-                               {"the greatest 32-bit row is row 19", {}, 1.0e8, row(19)},
-                               {"no number is row 0", {}, NotANumber, row(0)},
-                               {"beyond 32 bits upward is row 0, not 19", {}, 1.1e8, row(0)},
-                               {"beyond 32 bits downward is row 0", {}, -1.1e8, row(0)},
-                               {"infinity is row 0", {}, Infinity, row(0)},
-                               {"negative infinity is row 0", {}, -Infinity, row(0)},
-                               {"inverse: zero is row 19", Inverse, 0.0, row(19)},
-                               {"inverse: one is row 0", Inverse, 1.0, row(0)},
-                               {"inverse: a half is row 10, not 9", Inverse, 0.5, row(10)},
-                               {"inverse: above one is row 0", Inverse, 2.0, row(0)},
-                               {"inverse: below zero is row 19", Inverse, -1.0, row(19)},
-                               {"inverse: no number is row 0", Inverse, NotANumber, row(0)},
-                               {"inverse: beyond 32 bits is row 0", Inverse, -1.1e8, row(0)},
-                               {"inverse: infinity is row 0", Inverse, Infinity, row(0)},
-                               {"inverse: negative infinity is row 0", Inverse, -Infinity, row(0)},
-                           };
+    // 1 - value is rounded first, then the product, then the sum.
+    auto const inverse = edgesOf(Tints, Inverse, [](double value) {
+        double const volatile product = (1.0 - value) * 20.0;
+        return product + 0.5;
+    });
+    return rowsOf(Tints) + inverse +
+           std::vector<LookupRow>{
+               {"zero is row 0", Off, 0.0, row(0)},
+               {"below 0.025 is row 0", {}, 0.0249, row(0)},
+               {"from 0.025 on is row 1", {}, 0.0251, row(1)},
+               {"0.025 itself is row 1", {}, 0.025, row(1)},
+               {"the land begins at 0.475", {}, 0.475, row(10)},
+               {"the water ends at 0.475", {}, 0.4749, row(9)},
+               {"a half is row 10", {}, 0.5, row(10)},
+               {"from 0.925 on is row 19", {}, 0.925, row(19)},
+               {"below 0.925 is row 18", {}, 0.9249, row(18)},
+               {"one is 20.5, limited to row 19", {}, 1.0, row(19)},
+               {"below zero is row 0", {}, -0.5, row(0)},
+               {"above one is row 19", {}, 1.5, row(19)},
+               {"the greatest 32-bit row is row 19", {}, 1.0e8, row(19)},
+               {"no number is row 0", {}, NotANumber, row(0)},
+               {"beyond 32 bits upward is row 0, not 19", {}, 1.1e8, row(0)},
+               {"beyond 32 bits downward is row 0", {}, -1.1e8, row(0)},
+               {"infinity is row 0", {}, Infinity, row(0)},
+               {"negative infinity is row 0", {}, -Infinity, row(0)},
+               {"inverse: zero is row 19", Inverse, 0.0, row(19)},
+               {"inverse: one is row 0", Inverse, 1.0, row(0)},
+               {"inverse: a half is row 10, not 9", Inverse, 0.5, row(10)},
+               {"inverse: above one is row 0", Inverse, 2.0, row(0)},
+               {"inverse: below zero is row 19", Inverse, -1.0, row(19)},
+               {"inverse: no number is row 0", Inverse, NotANumber, row(0)},
+               {"inverse: beyond 32 bits is row 0", Inverse, -1.1e8, row(0)},
+               {"inverse: infinity is row 0", Inverse, Infinity, row(0)},
+               {"inverse: negative infinity is row 0", Inverse, -Infinity, row(0)},
+           };
 }
 
 /// Row k of the shifted instance, in the middle and near both ends of its band.
@@ -78,8 +84,12 @@ std::vector<LookupRow> shiftedBands() {
 /// The land tints over 0 to 1, the water tints over -1 to 0.
 std::vector<LookupRow> landTints() {
     auto const row = [](std::size_t k) { return Tints[k]; };
-    return shiftedBands() +
+    auto const edges = edgesOf(Tints, {}, [](double value) { return (value + 1.0) * 10.0; });
+    auto const inverse = edgesOf(Tints, Inverse, [](double value) { return (2.0 - value) * 10.0; });
+    return shiftedBands() + edges + inverse +
            std::vector<LookupRow>{
+               {"inverse: 2 - value is rounded once, which shows here", Inverse,
+                0.20000000000000032, row(17)},
                {"zero is row 10, the coast", Off, 0.0, row(10)},
                {"just below zero is row 9", {}, -0.001, row(9)},
                {"0.95 is row 19", {}, 0.95, row(19)},

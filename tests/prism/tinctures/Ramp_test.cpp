@@ -22,7 +22,9 @@ DescribedMap const description{{
                    parameter<double>("shift", "0", 1, {{"min", "-10"}, {"max", "10"}}),
                    parameter<int>("steps", "256", 1, {{"min", "2"}, {"max", "256"}})},
     .size = 256,
-    .cycle = {.change = {{"color", "0.2"}}},
+    .cycle = {.reads = {"time", "timescale", "color", "exp_scale", "shift", "steps", "saturator",
+                        "purity"},
+              .change = {{"color", "0.2"}}},
     .help = {},
     .lookups =
         {

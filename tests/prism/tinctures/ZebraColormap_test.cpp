@@ -23,7 +23,10 @@ DescribedMap const description{{
                    parameter<rgba_float_t>("endcolor", "(1,1,1,1)", 1),
                    parameter<double>("frequency", "0.1"), parameter<double>("phase", "0", 1)},
     .size = 256,
-    .cycle = {.publishesEarly = true, .ownMustUpdate = true, .change = {{"frequency", "0.3"}}},
+    .cycle = {.publishesEarly = true,
+              .ownMustUpdate = true,
+              .reads = {"startcolor", "endcolor", "frequency", "phase", "time", "timescale"},
+              .change = {{"frequency", "0.3"}}},
     .help = {},
     .lookups =
         {

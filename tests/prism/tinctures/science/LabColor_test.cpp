@@ -81,14 +81,126 @@ TEST(LabColor, TakesTheLinearBranchAtTheJointOfTheCompanding) {
         << "the power branch begins right above it";
 }
 
-/// A green of 0.1141 is where Y passes 0.008856 of white. The two laws differ
-/// there by 3e-5 in L.
-TEST(LabColor, ChangesTheCubeRootLawAtTheThresholdOfTheComponent) {
-    auto const y = [](double green) { return 0.7168786 * std::pow((green + 0.055) / 1.055, 2.4); };
-    auto const lightness = [](double green) { return converted("D50", {0, green, 0}).L; };
-    double const dark = y(0.1140), bright = y(0.1142);
-    EXPECT_NEAR(lightness(0.1140), 116.0 * (7.787 * dark + 16.0 / 116.0) - 16.0, 1e-12);
-    EXPECT_NEAR(lightness(0.1142), 116.0 * std::cbrt(bright) - 16.0, 1e-12);
+/// One component of XYZ under one illuminant, reached through the channel that
+/// weighs most in it.
+struct ComponentRow {
+    std::string name, light;
+    std::size_t channel;
+    double weight;  ///< of the channel in the component
+    double threshold, inverseWhite;
+};
+
+class LabComponent : public testing::TestWithParam<ComponentRow> {
+protected:
+    static LabPoint point(double percent) {
+        double rgb[3]{};
+        rgb[GetParam().channel] = percent;
+        return LabConversion(light(GetParam().light))(rgb[0], rgb[1], rgb[2]);
+    }
+
+    /// The term of the component in the point: of X and Z by what differs from
+    /// the term of Y, which stays in the linear law here.
+    static double term(LabPoint const& point) {
+        double const y = (point.L + 16.0) / 116.0;
+        switch (GetParam().channel) {
+        case 0:
+            return point.a / 500.0 + y;
+        case 2:
+            return y - point.b / 200.0;
+        default:
+            return y;
+        }
+    }
+};
+
+/// The two laws differ at the threshold by some 1e-7, which is a thousand million
+/// times what the arithmetic rounds away.
+TEST_P(LabComponent, ChangesItsLawRightAboveItsThreshold) {
+    ComponentRow const& row = GetParam();
+    double last = row.threshold / row.weight;
+    while (row.weight * last > row.threshold)
+        last = std::nextafter(last, 0.0);
+    while (row.weight * std::nextafter(last, 9.0) <= row.threshold)
+        last = std::nextafter(last, 9.0);
+    double const first = std::nextafter(last, 9.0);
+    auto const linear = [&](double percent) {
+        return 7.787 * (row.weight * percent * row.inverseWhite) + 0.13793103448275862;
+    };
+    auto const root = [&](double percent) {
+        return std::cbrt(row.weight * percent * row.inverseWhite);
+    };
+    EXPECT_NEAR(term(point(last)), linear(last), 1e-15);
+    EXPECT_NEAR(term(point(first)), root(first), 1e-15);
+    EXPECT_GT(std::fabs(linear(last) - root(first)), 1e-8) << "the laws can be told apart";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Thresholds, LabComponent,
+    testing::Values(
+        ComponentRow{"XUnderD50", "D50", 0, 0.4360747, 0.8539132319999999, 0.010371077140071768},
+        ComponentRow{"YUnderD50", "D50", 1, 0.7168786, 0.8855999999999999, 0.01},
+        ComponentRow{"ZUnderD50", "D50", 2, 0.7141733, 0.730805976, 0.012118127506937628},
+        ComponentRow{"XUnderD65", "D65", 0, 0.4124, 0.8417362319999999, 0.010521110608435826},
+        ComponentRow{"YUnderD65", "D65", 1, 0.7152, 0.8855999999999999, 0.01},
+        ComponentRow{"ZUnderD65", "D65", 2, 0.9505, 0.9642678479999999, 0.009184170164304804}),
+    [](auto const& row) { return row.param.name; });
+
+/// Channels where the product with the stored reciprocal and the quotient differ
+/// in the last bit.
+TEST(LabColor, MultipliesWithTheStoredReciprocals) {
+    int telling = 0;
+    for (int i = 1; i <= 40; ++i) {
+        double const channel = i / 1000.0;
+        EXPECT_EQ(linearPercent(channel), channel * 0.07739938080495357 * 100.0) << channel;
+        telling += linearPercent(channel) != channel / 12.92 * 100.0;
+    }
+    EXPECT_GT(telling, 0);
+    telling = 0;
+    for (int i = 41; i <= 1000; ++i) {
+        double const volatile channel = i / 1000.0;  // so that nobody takes the power beforehand
+        double const product = (channel + 0.055) * 0.9478672985781991;
+        EXPECT_EQ(linearPercent(channel), std::pow(product, 2.4) * 100.0) << channel;
+        telling += product != (channel + 0.055) / 1.055;
+    }
+    EXPECT_GT(telling, 0);
+}
+
+/// What differs between the point's terms, exactly: the whole arithmetic once more.
+TEST(LabColor, FollowsItsStepsToTheLastBit) {
+    struct Light {
+        std::string word;
+        double matrix[3][3];
+        double inverseWhite[3], threshold[3];
+    };
+    for (Light const& each :
+         {Light{"D50",
+                {{0.4360747, 0.3850649, 0.1430804},
+                 {0.2225045, 0.7168786, 0.0606169},
+                 {0.0139322, 0.0971045, 0.7141733}},
+                {0.010371077140071768, 0.01, 0.012118127506937628},
+                {0.8539132319999999, 0.8855999999999999, 0.730805976}},
+          Light{"D65",
+                {{0.4124, 0.3576, 0.1805}, {0.2126, 0.7152, 0.0722}, {0.0193, 0.1192, 0.9505}},
+                {0.010521110608435826, 0.01, 0.009184170164304804},
+                {0.8417362319999999, 0.8855999999999999, 0.9642678479999999}}}) {
+        LabConversion const convert(light(each.word));
+        for (double const red : {0.0, 0.7, 31.0, 99.9})
+            for (double const green : {0.1, 1.3, 47.0, 100.0})
+                for (double const blue : {0.0, 0.9, 12.5, 88.0}) {
+                    double f[3];
+                    for (std::size_t i = 0; i < 3; ++i) {
+                        double const* const row = each.matrix[i];
+                        double const xyz = (row[0] * red + row[1] * green) + row[2] * blue;
+                        double const t = xyz * each.inverseWhite[i];
+                        f[i] = xyz > each.threshold[i] ? std::cbrt(t)
+                                                       : 7.787 * t + 0.13793103448275862;
+                    }
+                    LabPoint const point = convert(red, green, blue);
+                    EXPECT_EQ(point.L, 116.0 * f[1] - 16.0);
+                    EXPECT_EQ(point.a, (f[0] - f[1]) * 500.0);
+                    EXPECT_EQ(point.b, (f[1] - f[2]) * 200.0);
+                }
+    }
 }
 
 TEST(LabColor, TakesD65ForEverythingButASelectedD50) {
