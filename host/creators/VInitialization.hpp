@@ -31,6 +31,8 @@ public:
 
     /// The token that was asked about last, or null.
     char const* askedToken() const noexcept { return asked_; }
+    /// How often a plug-in has asked.
+    unsigned questions() const noexcept { return questions_; }
 
     /// A plug-in reports that it is attached, detached, or that a thread starts
     /// or ends. The texts are constants of the plug-in. [loader]
@@ -40,6 +42,7 @@ private:
     int answer_ = Incompatible;
     bool fixed_ = false;
     char const* asked_ = nullptr;
+    unsigned questions_ = 0;
 };
 
 }  // namespace Orlo

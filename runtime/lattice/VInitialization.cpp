@@ -12,6 +12,7 @@ VInitialization::VInitialization(int fixedAnswer) : answer_(fixedAnswer), fixed_
 
 int VInitialization::IsCompatible(char const* token) {
     asked_ = token;
+    ++questions_;
     if (fixed_)
         return answer_;
     bool const same = token != nullptr && std::string(token) == InterfaceToken;

@@ -3,10 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <new>
 
+#include "host/creators/VSource.hpp"
 #include "runtime/lattice/Catalogue.hpp"
 #include "tests/entry/FailingAllocation.hpp"
+#include "tests/support/DiagnosticText.hpp"
 #include "tests/support/PluginTest.hpp"
 #include "tests/support/objects.hpp"
 
@@ -120,6 +123,8 @@ TEST_P(Allocation, FailingInALaterUpdateLeavesTheOldMapAsItWas) {
         SCOPED_TRACE(key);
         std::vector<rgba_float_t> colours(257);
         ColormapPtr map;
+        unsigned icons = 0;
+        Nucleo::Ageable::Stamp time = 0;
         long before = 0;
         update(*create(key), makePool());  // a warm-up
         points += failEverywhere(
@@ -128,6 +133,8 @@ TEST_P(Allocation, FailingInALaterUpdateLeavesTheOldMapAsItWas) {
                 object_ = create(key);
                 pool_ = makePool();
                 map = update(*object_, pool_);
+                icons = tincture(*object_).iconCount();
+                time = Nucleo::Ageable::now();
                 for (int i = 0; i <= 256; ++i)
                     colours[static_cast<std::size_t>(i)] = map->getColor(i / 256.0);
             },
@@ -137,6 +144,9 @@ TEST_P(Allocation, FailingInALaterUpdateLeavesTheOldMapAsItWas) {
                     EXPECT_EQ(map->getColor(i / 256.0), colours[static_cast<std::size_t>(i)]);
                 if (failed) {
                     EXPECT_EQ(mapOf(*object_, pool_).get(), map.get());
+                    bool const drawn = tincture(*object_).iconCount() != icons;
+                    EXPECT_TRUE(drawn || Nucleo::Ageable::now() == time)
+                        << "the icon comes before the touch";
                 }
                 EXPECT_TRUE(forceUpdate(*object_, pool_)) << "the next call works";
                 map = nullptr;
@@ -146,6 +156,44 @@ TEST_P(Allocation, FailingInALaterUpdateLeavesTheOldMapAsItWas) {
     }
     std::printf("%d allocations failed in a later update\n", points);
     EXPECT_GT(points, 0);
+}
+
+/// An object that tells, when it goes, whether it would have answered a request.
+class Probe : public Tincture {
+public:
+    Probe(std::string const& name, int kind, PreferencesPtr const& preferences)
+        : Tincture(name, kind, preferences, "colormap") {}
+    ~Probe() override { answered = request(*asked, 0.0, nullptr, nullptr); }
+    bool update(VRequest&, double) override { return true; }
+
+    static inline VRequest* asked = nullptr;
+    static inline bool answered = false;
+};
+
+/// The last allocation of all is that of the creator's note of its new object.
+TEST_P(Allocation, FailingWhereTheObjectLearnsItsCreatorComesBehindTheMessagesAndBeforeRequests) {
+    VRequest request(makePool());
+    Probe::asked = &request;
+    VCreator<Probe, void> const entry(VCreatorProperties(NameIs("Probe")), 0, nullptr, false,
+                                      InterfaceToken);
+    std::vector<std::string> lines;
+    std::unique_ptr<DiagnosticText> text;
+    failEverywhere(
+        [&] {
+            text.reset();  // before the next one takes its place
+            text = std::make_unique<DiagnosticText>(100);
+            Probe::answered = true;
+        },
+        [&] { object_ = entry.create("one", Nucleo::Intercube(), nullptr); },
+        [&](bool failed) {
+            if (failed)
+                lines = text->lines();
+            EXPECT_TRUE(!failed || !Probe::answered || lines.size() < 2);
+            object_ = nullptr;
+        });
+    EXPECT_EQ(lines, (std::vector<std::string>{"VCreator::create(one)",
+                                               "VCreator::create(one) got derived object"}));
+    EXPECT_TRUE(Probe::answered) << "once it is made it answers";
 }
 
 TEST_P(Allocation, NeverHappensInALookup) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <regex>
 
 #include "tests/support/LibraryFile.hpp"
 #include "workbench/session/PluginFile.hpp"
@@ -73,6 +74,52 @@ TEST_F(PluginLibrary, HasNoUniqueSymbolThatWouldKeepItLoaded) {
     EXPECT_THAT(library_.uniqueSymbols, IsEmpty());
 }
 #endif
+
+/// What a name that the library imports is for, and the names.
+struct Need {
+    char const* what;
+    char const* names;
+};
+
+std::vector<Need> const Needs {
+    {"the host", "_Z(T[ISTV]|T[hv][n0-9_]+_)?NK?(4Orlo|6Nucleo).*"},
+        {"memory", "_Z(nw|na|dl|da).*|mem(cpy|move|set|cmp)|bcmp|strlen"},
+        {"mathematics", "atan|cbrt|exp|fmod|pow|floorf?|trunc|fma"},
+        {"the one line on standard output, and the warnings",
+         "printf|puts|putchar|fflush|fwrite|stdout"},
+        {"exceptions and casts",
+         "_Unwind_Resume|__gxx_personality_.*|__dynamic_cast|"
+         "__cxa_(allocate_exception|free_exception|throw|rethrow|begin_catch|end_catch|bad_cast)|_"
+         "ZSt9terminatev|"
+         "_ZSt[0-9]+__throw_.*|_ZN?S?t?(TI)?[0-9]*.*length_error.*"},
+        {"types", "_ZT[IV](N10__cxxabiv1.*|[a-z]|PK[a-z])|__cxa_pure_virtual"},
+        {"containers and texts",
+         "_ZSt[0-9]+_Rb_tree_.*|_ZNK?St7__cxx1112basic_stringI.*|_ZNSaIcE.*|_ZSt.*__glibcxx_assert_"
+         "fail.*"},
+        {"static objects", "__cxa_(atexit|finalize|guard_(acquire|release|abort))"},
+#if defined(_WIN32)
+        {"the C runtime that the compiler puts in front of the library, with its printf",
+         "(Delete|Enter|Initialize|Leave)CriticalSection|GetLastError|IsDBCSLeadByteEx|"
+         "MultiByteToWideChar|WideCharToMultiByte|Sleep|TlsGetValue|Virtual(Protect|Query)|"
+         "___lc_codepage_func|___mb_cur_max_func|__iob_func|__setusermatherr|_amsg_exit|_errno|"
+         "_initterm|_lock|_unlock|abort|calloc|malloc|realloc|free|fputc|localeconv|strerror|"
+         "strncmp|"
+         "vfprintf|wcslen|pthread_mutex_init"},
+#else
+        {"the loader", "_ITM_.*|__gmon_start__"},
+        {"sanitizers", "__(asan|ubsan|tsan|lsan|sanitizer|sancov)_.*"},
+#endif
+};
+
+/// No file, no environment, no thread, no clock, no log of its own: whatever the
+/// library asks of others is named here.
+TEST_F(PluginLibrary, AsksOthersForNothingButThis) {
+    ASSERT_FALSE(library_.imports.empty());
+    for (std::string const& name : library_.imports)
+        EXPECT_TRUE(std::ranges::any_of(Needs, [&](Need const& need) {
+            return std::regex_match(name, std::regex(need.names));
+        })) << name;
+}
 
 TEST_F(PluginLibrary, HoldsTheModulesNameAndTheTokenButNoTextWithTheInterfaceDate) {
     std::string const all = data();

@@ -3,10 +3,13 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <map>
 #include <memory>
+#include <sstream>
 
 #include "host/creators/VActionNotifier.hpp"
 #include "host/creators/VCreatorBase.hpp"
+#include "host/pointers/Typename.hpp"
 #include "runtime/lattice/Catalogue.hpp"
 #include "runtime/lattice/PluginReports.hpp"
 #include "runtime/lattice/TypeRegistry.hpp"
@@ -15,6 +18,7 @@
 #include "tests/support/RecordingSpeaker.hpp"
 #include "tests/support/mapped.hpp"
 #include "tests/support/objects.hpp"
+#include "tests/support/writtenBytes.hpp"
 #include "workbench/session/PluginFile.hpp"
 
 namespace tests {
@@ -92,6 +96,37 @@ TEST_F(Loading, SaysAtVerbosity100EachCreatorThenTheAttachThenTheDetachThenTheTe
     EXPECT_EQ(text.lines(), expected);
 }
 
+TEST_F(Loading, LetsTheLineOfEachCreatorOutAtOnce) {
+    setVerbosity(100);
+    testing::internal::CaptureStdout();
+    auto plugin = load(host_);
+    std::size_t const written = writtenBytes();
+    std::string const printed = testing::internal::GetCapturedStdout();
+    setVerbosity(-1);
+    EXPECT_THAT(printed, testing::StartsWith("VCreator::VCreator("));
+    EXPECT_GE(written, printed.find("VInitialization::initPlugin"))
+        << "the creators have not flushed";
+}
+
+TEST_F(Loading, SaysItsLineBeforeItIsRegistered) {
+    auto const plugin = load(host_);
+    TemporaryFolder const folder;
+    std::filesystem::copy_file(workbench::pluginBesideProgram(), folder / "another.telm");
+    setVerbosity(100);
+    testing::internal::CaptureStdout();
+    auto second = std::make_unique<PluginFile>(folder / "another.telm", host_);
+    std::istringstream printed(testing::internal::GetCapturedStdout());
+    setVerbosity(-1);
+    std::vector<std::string> starts;
+    for (std::string line; std::getline(printed, line);)
+        starts.push_back(line.substr(0, line.find_first_of(":")));
+    std::vector<std::string> expected;
+    for (std::size_t i = 0; i < catalogue().size() / 2; ++i)
+        expected.insert(expected.end(), {"VCreator", "WARNING"});
+    expected.emplace_back("VInitialization");
+    EXPECT_EQ(starts, expected);
+}
+
 TEST_F(Loading, RunsTheInitialiserOfTheElbeSchemeLast) {
     auto const plugin = load(host_);
     EXPECT_EQ(keys().back(), "Colormaps/TulElbeColorScheme");
@@ -113,6 +148,69 @@ TEST_F(Loading, IsUndoneInReverseTheElbeSchemeFirst) {
             died.push_back(report.block);
     std::ranges::reverse(blocks);
     EXPECT_EQ(died, blocks);
+}
+
+/// What a plug-in has built, by control block: its entries and the creators of
+/// its value types.
+struct Built {
+    Built() {
+        for (auto const& creator : catalogue()) {
+            std::string const key = creator->keyname("/");
+            std::string const source = creator->get(VCreatorPropertyElements::Source);
+            names[creator->controlBlock()] = key;
+            sources[key] = source.empty() ? key : source;
+            for (SlotPtr const& slot : inputs(*create(key)))
+                addType(key, Nucleo::Typename(slot->parameter()->DefaultValue()->type()));
+        }
+    }
+
+    void addType(std::string const& key, std::string const& type) {
+        auto const slot = findSlotCreator(type);
+        if (!slot)
+            return;  // no type of the plug-in
+        firstToNeed.try_emplace(type, key);
+        names[slot.controlBlock()] = "slot of " + type;
+        names[findValueCreator(type).controlBlock()] = "value of " + type;
+    }
+
+    std::map<void const*, std::string> names;
+    std::map<std::string, std::string> sources;      ///< by entry
+    std::map<std::string, std::string> firstToNeed;  ///< the entry, by type
+};
+
+/// What dies while the plug-in goes is what it has built, in reverse.
+TEST_F(Loading, BuildsTheCreatorsOfAValueTypeBehindTheEntriesOfTheFirstSourceThatNeedsIt) {
+    auto plugin = load(host_);
+    Built const built;
+    RecordingSpeaker speaker;
+    {
+        Tracing const on;
+        plugin.reset();
+    }
+    std::vector<std::string> order;
+    for (PointerReport const& report : speaker.reports)
+        if (report.operation == "dies while counted" && built.names.contains(report.block))
+            order.insert(order.begin(), built.names.at(report.block));
+    ASSERT_EQ(order.size(), built.names.size());
+
+    std::string source;  // of the latest entry
+    std::map<std::string, std::string> builtBy;
+    for (std::size_t i = 0; i < order.size(); ++i)
+        if (built.sources.contains(order[i])) {
+            source = built.sources.at(order[i]);
+            for (auto const& [type, other] : builtBy)
+                EXPECT_NE(other, source) << type << " is built between the entries of a source";
+        } else if (order[i].starts_with("slot of ")) {
+            std::string const type = order[i].substr(8);
+            builtBy[type] = source;
+            ASSERT_LT(i + 1, order.size());
+            EXPECT_EQ(order[++i], "value of " + type) << "the slot creator comes first";
+        } else {
+            ADD_FAILURE() << order[i] << " stands alone";
+        }
+    ASSERT_FALSE(builtBy.empty());
+    for (auto const& [type, entry] : built.firstToNeed)
+        EXPECT_EQ(builtBy[type], built.sources.at(entry)) << type;
 }
 
 TEST_F(Loading, LetsNoObjectSurvive) {
@@ -151,6 +249,11 @@ INSTANTIATE_TEST_SUITE_P(Answers, HostAnswer, testing::Values(1, 2, 42, 65536, 2
                                                    : std::to_string(each.param);
                          });
 
+TEST_F(Loading, AsksTheHostOnce) {
+    auto const plugin = load(host_);
+    EXPECT_EQ(host_.questions(), 1u);
+}
+
 TEST_F(Loading, EndsAtOnceWhenTheHostRefuses) {
     VInitialization refusing(VInitialization::Incompatible);
     EXPECT_THROW(load(refusing), workbench::PluginError);
@@ -180,8 +283,13 @@ class SecondCopy : public Loading {
 protected:
     class Listener : public VActionNotifier {
     public:
-        void warned(std::string const& text) override { warnings.push_back(text); }
+        void warned(std::string const& text) override {
+            std::fflush(stdout);
+            warnings.push_back(text);
+            printedBefore.push_back(writtenBytes());
+        }
         std::vector<std::string> warnings;
+        std::vector<std::size_t> printedBefore;
     };
 
     void SetUp() override {
@@ -226,6 +334,14 @@ TEST_F(SecondCopy, WarnsOnceForEachCreatorOnTheConsoleAndToTheUser) {
     EXPECT_EQ(printed_, console);
 }
 
+TEST_F(SecondCopy, WarnsOnTheConsoleFirst) {
+    std::size_t console = 0;
+    for (std::size_t i = 0; i < listener_.warnings.size(); ++i) {
+        console += ("WARNING: " + listener_.warnings[i] + "\n").size();
+        EXPECT_GE(listener_.printedBefore[i], console) << listener_.warnings[i];
+    }
+}
+
 TEST_F(SecondCopy, UnloadedFirstLeavesTheFirstAsItWas) {
     second_.reset();
     EXPECT_FALSE(isMapped("another.telm"));
@@ -240,6 +356,15 @@ TEST_F(SecondCopy, UnloadedLastStillWorksAlone) {
     EXPECT_EQ(keys(), entries_);
     EXPECT_TRUE(inputCreators(typeid(ColormapPtr)).empty());
     EXPECT_TRUE(update(*create(entries_.front()), makePool()));
+}
+
+TEST_F(SecondCopy, TakesItsCreatorsOutThoughTheHostHadRefusedThem) {
+    first_.reset();
+    for (auto const& creator : catalogue())
+        EXPECT_TRUE(registerVInput(typeid(ColormapPtr), WeakInputCreatorPtr(creator)))
+            << "now the host takes them by itself";
+    second_.reset();
+    EXPECT_TRUE(inputCreators(typeid(ColormapPtr)).empty());
 }
 
 TEST_F(SecondCopy, HasObjectsThatTheFirstOnesUnloadLeavesAlone) {

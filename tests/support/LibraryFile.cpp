@@ -81,6 +81,8 @@ void LibraryFile::readElfSymbols(std::size_t offset, std::size_t size, std::size
         bool const defined = number<std::uint16_t>(at + 6) != 0;
         if (defined && binding != 0)
             exports.push_back(name);
+        if (!defined && !name.empty())
+            imports.push_back(name);
         if (defined && binding == UniqueBinding)
             uniqueSymbols.push_back(name);
     }
@@ -130,8 +132,20 @@ void LibraryFile::readPeExports(std::size_t rva) {
 void LibraryFile::readPeImports(std::size_t rva) {
     if (rva == 0)
         return;
-    for (std::size_t at = peOffset(rva); number<std::uint32_t>(at + 12) != 0; at += 20)
+    for (std::size_t at = peOffset(rva); number<std::uint32_t>(at + 12) != 0; at += 20) {
         libraries.push_back(text(peOffset(number<std::uint32_t>(at + 12))));
+        readPeImportedNames(number<std::uint32_t>(at));
+    }
+}
+
+void LibraryFile::readPeImportedNames(std::size_t rva) {
+    constexpr std::size_t ByNumber = std::size_t{1} << 63U;
+    for (std::size_t at = peOffset(rva); number<std::uint64_t>(at) != 0; at += 8) {
+        std::size_t const entry = number<std::uint64_t>(at);
+        bool const hasName = (entry & ByNumber) == 0;
+        imports.push_back(hasName ? text(peOffset(entry) + 2)
+                                  : "#" + std::to_string(entry & 0xffffU));
+    }
 }
 
 }  // namespace tests

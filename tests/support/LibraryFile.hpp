@@ -17,6 +17,7 @@ struct LibraryFile {
     std::vector<std::string> exports;             ///< names, in the order of the table
     std::size_t exportedFunctions = 0;            ///< with those that have a number only
     std::vector<std::string> libraries;           ///< the libraries that it imports from
+    std::vector<std::string> imports;             ///< the names that it imports; `#7` by number
     std::vector<std::string> runPaths;            ///< where it looks for them (ELF)
     std::vector<std::string> uniqueSymbols;       ///< names that would keep it loaded (ELF)
     std::map<std::string, std::string> sections;  ///< contents by name
@@ -28,6 +29,7 @@ private:
     void readPe();
     void readPeExports(std::size_t rva);
     void readPeImports(std::size_t rva);
+    void readPeImportedNames(std::size_t rva);
     std::size_t peOffset(std::size_t rva) const;
 
     template <class Number>
