@@ -1,0 +1,429 @@
+"""The small wrong changes that scripts/mutate tries.
+
+>>> for change in mutations_of("void f() {\\n    if (a < 1)\\n        b(a + 2, true);\\n}\\n"):
+...     print(change.what, change.after.strip())
+comparison if (a <= 1)
+constant if (a < 2)
+statement left out ;
+operator b(a - 2, true);
+constant b(a + 3, true);
+constant b(a + 2, false);
+
+Compiling is what takes the time, so all changes are built in at once, each
+under a number, and `mutant::active` says which one holds:
+
+>>> text = "double f(double a) {\\n    return a + 0.5;\\n}\\n"
+>>> print(woven(text, enumerate(mutations_of(text), 1))[0].splitlines()[1].strip())
+return a +mutant::plus(1)+ mutant::pick(2, 0.5, 0.500005);
+"""
+
+import re
+from dataclasses import dataclass
+
+TOKEN = re.compile(
+    r"""
+      (?P<comment>//[^\n]*|/\*.*?\*/)
+    | (?P<directive>^[ \t]*\#(?:[^\n]*\\\n)*[^\n]*)
+    | (?P<text>R"\((?:.*?)\)"|"(?:\\.|[^"\\\n])*")
+    | (?P<character>'(?:\\.|[^'\\])+')
+    | (?P<number>\b(?:0x[0-9a-fA-F']+|\d[\d']*(?:\.\d*)?(?:[eE][-+]?\d+)?)[a-zA-Z]*)
+    | (?P<name>[A-Za-z_]\w*)
+    | (?P<operator><=>|->\*|<<=|>>=|\.\.\.|::|->|\+\+|--|<<|>>|<=|>=|==|!=|&&|\|\||[-+*/%&|^]=|.)
+    """,
+    re.VERBOSE | re.MULTILINE | re.DOTALL,
+)
+
+# Binary operators, which stand between blanks: what takes their place, and how
+# both are built in. The named operator stands between two of the same rank.
+COMPARISONS = {"<": ("<=", "<{}>", "less"), "<=": ("<", "<{}>", "lessEqual"),
+               ">": (">=", "<{}>", "greater"), ">=": (">", "<{}>", "greaterEqual"),
+               "==": ("!=", "!={}!=", "equal"), "!=": ("==", "!={}!=", "unequal")}
+OPERATORS = {"+": ("-", "+{}+", "plus"), "-": ("+", "-{}-", "minus"),
+             "*": ("/", "*{}*", "times"), "/": ("*", "/{}/", "over"), "%": ("*", "%{}%", "modulo"),
+             "&&": ("||", None, None), "||": ("&&", None, None), "+=": ("-=", None, None),
+             "-=": ("+=", None, None), "*=": ("/=", None, None), "/=": ("*=", None, None)}
+STEPS = {"++": "--", "--": "++"}
+BOOLEANS = {"true": "false", "false": "true"}
+
+# Statements that begin with one of these are neither swapped nor left out.
+OTHER_STATEMENTS = {
+    "return", "using", "namespace", "class", "struct", "enum", "template", "typedef", "extern",
+    "static_assert", "public", "private", "protected", "case", "default", "throw", "try", "catch",
+    "switch", "for", "while", "do", "friend", "delete", "continue", "else", "virtual", "explicit",
+    "inline", "constexpr", "static", "const", "auto", "mutable", "noexcept", "requires", "operator",
+}
+
+
+@dataclass(frozen=True)
+class Token:
+    kind: str
+    text: str
+    start: int
+
+    @property
+    def end(self):
+        return self.start + len(self.text)
+
+
+@dataclass(frozen=True)
+class Change:
+    """`text` in the place of what stands from `start` to `end`. `edits` say how it
+    is built in beside others: (start, end, text for a number), or none if it
+    cannot be. `run` are the statements in whose row two are swapped."""
+    start: int
+    end: int
+    what: str
+    text: str
+    edits: tuple = ()
+    run: tuple = ()
+
+
+@dataclass(frozen=True)
+class Mutation:
+    """A change at its place. `before` and `after` are the whole lines."""
+    change: Change
+    line: int
+    before: str
+    after: str
+
+    @property
+    def what(self):
+        return self.change.what
+
+    def applied_to(self, source):
+        return source[:self.change.start] + self.change.text + source[self.change.end:]
+
+    def can_be_woven(self):
+        return bool(self.change.edits or self.change.run)
+
+
+@dataclass(frozen=True)
+class Statement:
+    """The tokens of one statement, its end mark included."""
+    tokens: tuple
+
+    @property
+    def start(self):
+        return self.tokens[0].start
+
+    @property
+    def end(self):
+        return self.tokens[-1].end
+
+
+def mutations_of(source):
+    """All mutations of the text of a source, in the order of their places."""
+    tokens = code_of(source)
+    changes = token_changes(source, tokens) + statement_changes(source, tokens)
+    found, seen = [], set()
+    for change in sorted(changes, key=lambda change: (change.start, change.end)):
+        place = change.start, change.end, change.text
+        if source[change.start:change.end] != change.text and place not in seen:
+            seen.add(place)
+            found.append(mutation(source, change))
+    return found
+
+
+def mutation(source, change):
+    first = source.rfind("\n", 0, change.start) + 1
+    last = source.find("\n", change.end)
+    last = len(source) if last < 0 else last
+    after = source[first:change.start] + change.text + source[change.end:last]
+    return Mutation(change, source.count("\n", 0, change.start) + 1, source[first:last], after)
+
+
+def code_of(source):
+    """The tokens that can be changed: no comments, no directives."""
+    tokens = (Token(match.lastgroup, match.group(), match.start())
+              for match in TOKEN.finditer(source) if not match.group().isspace())
+    return [token for token in tokens if token.kind not in ("comment", "directive")]
+
+
+# --- Changes of one token
+
+def token_changes(source, tokens):
+    rows = table_rows(tokens)
+    changes = []
+    for i, token in enumerate(tokens):
+        before = tokens[i - 1] if i > 0 else Token("", "", 0)
+        if token.kind == "number" and rows.get(i, True):
+            what = "table entry" if i in rows else "constant"
+            changes.append(constant(source, token.start, token.end, other_number(token.text), what))
+        elif token.kind == "text" and before.text != "extern" and not is_text(tokens, i + 1):
+            first = i
+            while is_text(tokens, first - 1):
+                first -= 1
+            start = tokens[first].start
+            changes.append(constant(source, start, token.end,
+                                    source[start:token.start] + other_text(token.text)))
+        elif token.text in BOOLEANS:
+            changes.append(constant(source, token.start, token.end, BOOLEANS[token.text]))
+        elif token.kind == "operator" and before.text != "operator":
+            changes += operator_changes(source, tokens, i)
+    return changes
+
+
+def is_text(tokens, i):
+    return 0 <= i < len(tokens) and tokens[i].kind == "text"
+
+
+def constant(source, start, end, text, what="constant"):
+    edit = start, end, lambda n: f"mutant::pick({n}, {source[start:end]}, {text})"
+    return Change(start, end, what, text, (edit,))
+
+
+def table_rows(tokens):
+    """The numbers of rows of four, and whether each is to be changed: one
+    component in each row, in turn, so that a table is not worked through four
+    times."""
+    chosen, row = {}, 0
+    for i in range(len(tokens) - 8):
+        texts = [token.text for token in tokens[i:i + 9]]
+        numbers = [i + 1, i + 3, i + 5, i + 7]
+        is_row = (texts[0] == "{" and texts[8] == "}" and texts[2:7:2] == [","] * 3
+                  and all(tokens[n].kind == "number" for n in numbers))
+        if is_row:
+            chosen.update({n: k == row % 4 for k, n in enumerate(numbers)})
+            row += 1
+    return chosen
+
+
+def other_number(text):
+    """The next whole number, or a broken number that is greater by a
+    hundred-thousandth."""
+    digits = re.match(r"0x[0-9a-fA-F']+|[\d']+(?:\.\d*)?(?:[eE][-+]?\d+)?", text).group()
+    suffix = text[len(digits):]
+    plain = digits.replace("'", "")
+    if plain.startswith("0x"):
+        return hex(int(plain, 16) + 1) + suffix
+    if plain.isdigit():
+        return str(int(plain) + 1) + suffix
+    value = float(plain)
+    return repr(float(f"{value * (1 + 1e-5):.12g}") if value != 0 else 1e-5) + suffix
+
+
+def other_text(text):
+    return text[:-1] + 'x"'
+
+
+def operator_changes(source, tokens, i):
+    token = tokens[i]
+    between_blanks = (source[token.start - 1:token.start].isspace()
+                      and source[token.end:token.end + 1].isspace())
+    for kind, known in (("comparison", COMPARISONS), ("operator", OPERATORS)):
+        if between_blanks and token.text in known:
+            other, pattern, name = known[token.text]
+            edit = token.start, token.end, lambda n: pattern.format(f"mutant::{name}({n})")
+            return [Change(token.start, token.end, kind, other, (edit,) if name else ())]
+    if token.text in STEPS:
+        return [Change(token.start, token.end, "operator", STEPS[token.text])]
+    if token.text == "!":
+        edit = token.start, token.end, lambda n: f"mutant::is({n}) != !"
+        return [Change(token.start, token.end, "operator", "", (edit,))]
+    if token.text == "-" and not between_blanks:
+        edit = token.start, token.end, lambda n: f"mutant::sign({n}) * "
+        return [Change(token.start, token.end, "operator", "", (edit,))]
+    if token.text == "?":
+        return choice_change(source, tokens, i)
+    return []
+
+
+def choice_change(source, tokens, i):
+    """The two results of `condition ? this : that`, exchanged."""
+    colon = end = None
+    depth = 0
+    for token in tokens[i + 1:]:
+        if depth == 0 and token.text == ":" and colon is None:
+            colon = token
+        elif depth == 0 and colon and token.text in (",", ";", ")", "}", "]", ":"):
+            end = token
+            break
+        depth += {"(": 1, "[": 1, "{": 1, ")": -1, "]": -1, "}": -1}.get(token.text, 0)
+    if colon is None or end is None:
+        return []
+    this = source[tokens[i].end:colon.start].strip()
+    that = source[colon.end:end.start].strip()
+    edits = ((tokens[i].end, tokens[i].end, lambda n: f" mutant::is({n}) ? ({that}) : ("),
+             (colon.start, colon.start, lambda n: ") "),
+             (colon.end, colon.end, lambda n: f" mutant::is({n}) ? ({this}) : ("),
+             (end.start, end.start, lambda n: ")"))
+    return [Change(tokens[i].end, end.start, "choice", f" {that} : {this}", edits)]
+
+
+# --- Changes of statements
+
+def statement_changes(source, tokens):
+    changes = []
+    for is_body, block in blocks_of(tokens):
+        for statement in filter(None, block):
+            changes += condition_change(source, statement)
+            body = body_of(statement)
+            if is_body and is_action(body):
+                edit = body.start, body.start, lambda n: f"for (bool on = !mutant::is({n}); on; on = false) "
+                weaves = body.tokens[0].text != "break"
+                changes.append(Change(body.start, body.end, "statement left out", ";",
+                                      (edit,) if weaves else ()))
+        for run in runs_of(block, is_body):
+            texts = tuple((each.start, each.end) for each in run)
+            for first, second in zip(run, run[1:]):
+                gap = source[first.end:second.start]
+                swapped = source[second.start:second.end] + gap + source[first.start:first.end]
+                changes.append(Change(first.start, second.end, "order of statements", swapped,
+                                      run=texts if is_body else ()))
+    return changes
+
+
+def blocks_of(tokens):
+    """The statements of each pair of braces and of the file, and whether they
+    are those of a function. Statements on both sides of a block in braces have
+    None between them."""
+    finished, stack = [], [(False, [], [])]  # (of a function, statements, tokens of the one at hand)
+    for i, token in enumerate(tokens):
+        is_body, statements, current = stack[-1]
+        following = tokens[i + 1].text if i + 1 < len(tokens) else ""
+        if token.text == "}" and len(stack) > 1:
+            finished.append(stack.pop()[:2])
+            is_body, statements, current = stack[-1]
+            current.append(token)
+            if following not in (";", ",", ")", ".", "->", "(", "}", "[", "{"):
+                statements.append(None)
+                current.clear()
+            continue
+        current.append(token)
+        if token.text == "{":
+            heads = {each.text for each in current if each.kind == "name"}
+            stack.append((not heads & {"class", "struct", "enum", "namespace", "union"}, [], []))
+        elif token.text == ";" and depth_of(current) == 0:
+            statements.append(Statement(tuple(current)))
+            current.clear()
+        elif token.text == ":" and current[0].text in ("case", "default", "public", "private", "protected"):
+            current.clear()
+    return finished + [stack[0][:2]]
+
+
+def depth_of(tokens):
+    return sum({"(": 1, ")": -1}.get(token.text, 0) for token in tokens)
+
+
+def condition_change(source, statement):
+    """A condition without an operator of its own, turned round."""
+    tokens = statement.tokens
+    if len(tokens) < 3 or tokens[0].text != "if" or tokens[1].text != "(":
+        return []
+    close = closing(tokens, 1)
+    condition = tokens[2:close]
+    operators = {*COMPARISONS, "&&", "||", "!", "=", "{"} - {"<", ">"}
+    if not condition or any(token.text in operators for token in condition):
+        return []
+    start, end = tokens[1].end, tokens[close].start
+    if re.search(r" [<>] ", source[start:end]):
+        return []
+    edits = ((start, start, lambda n: f"mutant::is({n}) != bool("), (end, end, lambda n: ")"))
+    return [Change(start, start, "condition", "!", edits)]
+
+
+def closing(tokens, opening):
+    depth = 0
+    for i in range(opening, len(tokens)):
+        depth += {"(": 1, ")": -1}.get(tokens[i].text, 0)
+        if depth == 0:
+            return i
+    return len(tokens) - 1
+
+
+def body_of(statement):
+    """The statement behind `if (...)` and `for (...)`."""
+    tokens = statement.tokens
+    while len(tokens) > 2 and tokens[0].text in ("if", "for", "while") and tokens[1].text == "(":
+        inner = tokens[closing(tokens, 1) + 1:]
+        if not inner:
+            break
+        tokens = inner
+    return Statement(tokens)
+
+
+def is_action(statement):
+    """A call, an assignment or a `break`, as against a declaration."""
+    tokens = statement.tokens
+    if tokens[0].text == "break":
+        return True
+    if len(tokens) < 3 or tokens[0].text in OTHER_STATEMENTS or tokens[0].kind == "text":
+        return False
+    if tokens[0].kind == "operator":
+        return tokens[0].text in ("++", "--", "*", "(")
+    return not is_declaration(tokens)
+
+
+def is_declaration(tokens):
+    """Whether a type stands in front of a name."""
+    depth = 0
+    for before, token in zip(tokens, tokens[1:]):
+        if depth == 0 and token.text in ("(", "=", ";", "{", "[", "+=", "-=", "."):
+            return False
+        depth += {"<": 1, ">": -1, "(": 1, ")": -1}.get(token.text, 0)
+        if token.kind == "name" and (before.kind == "name" or before.text in (">", "*", "&")):
+            return True
+    return False
+
+
+def runs_of(block, is_body):
+    """The longest rows of neighbours of which each two can be swapped."""
+    runs, run = [], []
+    for statement in [*block, None]:
+        if statement and (is_step(statement) if is_body else is_member(statement)):
+            run.append(statement)
+        else:
+            runs.append(run)
+            run = []
+    return [run for run in runs if len(run) > 1]
+
+
+def is_step(statement):
+    """A statement whose place in the order can matter."""
+    head = statement.tokens[0].text
+    if head in ("if", "for"):
+        return not any(token.text in ("{", "else") for token in statement.tokens)
+    return head != "break" and is_action(statement)
+
+
+def is_member(statement):
+    """A declaration that registers itself where it is made."""
+    return statement.tokens[0].text in ("TypedSlot", "VSource")
+
+
+# --- All changes at once
+
+def woven(source, numbered):
+    """The source with the numbered mutations built in, and the lines on which
+    each one stands there. What is `constexpr` can be so no longer."""
+    edits, runs = [], {}
+    for number, each in numbered:
+        for start, end, text in each.change.edits:
+            edits.append((start, end, 1, text(number), [number]))
+        if each.change.run:
+            runs.setdefault(each.change.run, []).append((number, each.change))
+    for run, swaps in runs.items():
+        edits += run_edits(source, run, swaps)
+    for match in re.finditer(r"^([ \t]*)constexpr ", source, re.MULTILINE):
+        text = "const " if match.group(1) else "inline const "
+        edits.append((match.end(1), match.end(), 0, text, []))
+    result, at, lines = "", 0, {}
+    for start, end, _, text, numbers in sorted(edits, key=lambda edit: edit[:3]):
+        result += source[at:start]
+        first = result.count("\n") + 1
+        result += text
+        at = end
+        for number in numbers:
+            lines.setdefault(number, set()).update(range(first, result.count("\n") + 2))
+    return result + source[at:], lines
+
+
+def run_edits(source, run, swaps):
+    """`if (this swap) { the row so } else if (...) ... else { the row }`"""
+    first, last = run[0][0], run[-1][1]
+    head = ""
+    for number, change in swaps:
+        row = source[first:change.start] + change.text + source[change.end:last]
+        head += f"if (mutant::is({number})) {{ {row} }} else "
+    numbers = [number for number, _ in swaps]
+    return [(first, first, 0, head + "{ ", numbers), (last, last, 2, " }", numbers)]
