@@ -404,7 +404,7 @@ def woven(source, numbered):
             runs.setdefault(each.change.run, []).append((number, each.change))
     for run, swaps in runs.items():
         edits += run_edits(source, run, swaps)
-    for match in re.finditer(r"^([ \t]*)constexpr ", source, re.MULTILINE):
+    for match in re.finditer(r"^([ \t]*)constexpr ", source if edits else "", re.MULTILINE):
         text = "const " if match.group(1) else "inline const "
         edits.append((match.end(1), match.end(), 0, text, []))
     result, at, lines = "", 0, {}

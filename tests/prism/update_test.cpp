@@ -309,6 +309,30 @@ TEST_P(ChangedUpdate, ReplacesEvenAForeignMapIfItReplaces) {
     EXPECT_EQ(output_->map().get() == foreign.get(), cycle().makes == Makes::WhenNone);
 }
 
+/// A consumer's cache that looks a colour up when it goes.
+class LookingCache : public Nucleo::Chunk<double> {
+public:
+    LookingCache(Colormap const& map, rgba_float_t& seen) : Chunk(1), map_(map), seen_(seen) {}
+    ~LookingCache() override { seen_ = map_.getColor(0.1); }
+
+private:
+    Colormap const& map_;
+    rgba_float_t& seen_;
+};
+
+TEST_P(ChangedUpdate, AnswersAnewWhenTheCacheGoesUnlessItReplaces) {
+    if (cycle().makes != Makes::WhenNone)
+        return;  // the map that goes with its cache never changes
+    ColormapPtr const map = update(*object_, pool_);
+    rgba_float_t const before = map->getColor(0.1);
+    rgba_float_t seen = before;
+    map->cachedChunk = new LookingCache(*map, seen);
+    change();
+    forceUpdate(*object_, pool_);
+    EXPECT_FALSE(seen == before);
+    EXPECT_EQ(seen, map->getColor(0.1));
+}
+
 INSTANTIATE_TEST_SUITE_P(Maps, ChangedUpdate, testing::ValuesIn(changingMaps()), nameOf);
 
 /// Maps that take the age of the parameters.
@@ -354,6 +378,27 @@ TEST_P(RaisedUpdate, LeavesTheAgeWhereNoParameterHasChanged) {
     Ageable::Stamp const age = map->age();
     Ageable::GlobalTime.fetch_add(10);
     EXPECT_EQ(ageGiven(map), age);
+}
+
+/// Notes how old it is whenever a colour is looked up in it.
+class AgedMap : public ForeignMap {
+public:
+    rgba_float_t getColor(double value) const override {
+        ages.push_back(age());
+        return ForeignMap::getColor(value);
+    }
+    mutable std::vector<Ageable::Stamp> ages;
+};
+
+TEST_P(RaisedUpdate, HasRaisedTheAgeWhenItDrawsTheIcon) {
+    update(*object_, pool_);
+    StrongPtr<AgedMap, Colormap> const foreign = new AgedMap;
+    output_->place(foreign);
+    change();
+    forceUpdate(*object_, pool_);
+    EXPECT_EQ(foreign->ages.empty(), !cycle().drawsIcon);
+    for (Ageable::Stamp const age : foreign->ages)
+        EXPECT_EQ(age, object_->age(pool_));
 }
 
 INSTANTIATE_TEST_SUITE_P(Maps, RaisedUpdate, testing::ValuesIn(raisedMaps()), nameOf);
