@@ -169,7 +169,9 @@ def is_text(tokens, i):
 
 def constant(source, start, end, text, what="constant"):
     edit = start, end, lambda n: f"mutant::pick({n}, {source[start:end]}, {text})"
-    return Change(start, end, what, text, (edit,))
+    compiler_needs_it = (source[start - 1:start] == "<" or source[end:end + 1] == ">"
+                         or source[:start].endswith("case "))
+    return Change(start, end, what, text, () if compiler_needs_it else (edit,))
 
 
 def table_rows(tokens):
@@ -277,28 +279,56 @@ def blocks_of(tokens):
     """The statements of each pair of braces and of the file, and whether they
     are those of a function. Statements on both sides of a block in braces have
     None between them."""
-    finished, stack = [], [(False, [], [])]  # (of a function, statements, tokens of the one at hand)
+    finished, stack = [], [Braces(False, False)]
     for i, token in enumerate(tokens):
-        is_body, statements, current = stack[-1]
-        following = tokens[i + 1].text if i + 1 < len(tokens) else ""
         if token.text == "}" and len(stack) > 1:
-            finished.append(stack.pop()[:2])
-            is_body, statements, current = stack[-1]
-            current.append(token)
-            if following not in (";", ",", ")", ".", "->", "(", "}", "[", "{"):
-                statements.append(None)
-                current.clear()
+            inner = stack.pop()
+            finished.append((inner.of_function, inner.statements))
+            stack[-1].current.append(token)
+            following = tokens[i + 1].text if i + 1 < len(tokens) else ""
+            if not inner.are_value and following not in (";", ",", ")", ".", "->", "(", "}", "["):
+                stack[-1].end_of_block()
             continue
-        current.append(token)
+        at = stack[-1]
         if token.text == "{":
-            heads = {each.text for each in current if each.kind == "name"}
-            stack.append((not heads & {"class", "struct", "enum", "namespace", "union"}, [], []))
-        elif token.text == ";" and depth_of(current) == 0:
-            statements.append(Statement(tuple(current)))
-            current.clear()
-        elif token.text == ":" and current[0].text in ("case", "default", "public", "private", "protected"):
-            current.clear()
-    return finished + [stack[0][:2]]
+            names = {each.text for each in at.current if each.kind == "name"}
+            of_type = bool(names & {"class", "struct", "enum", "namespace", "union"})
+            are_value = not of_type and begins_value(at, tokens[i - 1] if i > 0 else token)
+            at.current.append(token)
+            stack.append(Braces(not of_type, are_value))
+            continue
+        at.current.append(token)
+        if token.text == ";" and depth_of(at.current) == 0:
+            at.statements.append(Statement(tuple(at.current)))
+            at.current = []
+        elif token.text == ":" and at.current[0].text in LABELS:
+            at.current = []
+    return finished + [(False, stack[0].statements)]
+
+
+LABELS = ("case", "default", "public", "private", "protected")
+
+
+class Braces:
+    """What stands in a pair of braces, as far as it is read."""
+
+    def __init__(self, of_function, are_value):
+        self.of_function = of_function
+        self.are_value = are_value  # as in `Range{0, 1}`
+        self.statements, self.current = [], []
+
+    def end_of_block(self):
+        self.statements.append(None)  # what stands before and behind it is no pair
+        self.current = []
+
+
+def begins_value(outer, before):
+    """Whether braces behind a token hold a value and no statements."""
+    if before.text == "{":
+        return outer.are_value
+    if before.kind == "name":
+        return before.text not in {"else", "do", "try", "const", "override", "noexcept", "final", "mutable"}
+    return before.text in ("=", ",", "(", ">", "?", ":", "+", "-", "*", "/", "==")
 
 
 def depth_of(tokens):
