@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 #include <regex>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -45,6 +46,30 @@ TEST(Documents, LinkToFilesThatExist) {
         for (std::string const& target : linkedFiles(textOf(document)))
             EXPECT_TRUE(fs::exists(document.parent_path() / target))
                 << document.filename().generic_string() << " links to " << target;
+}
+
+TEST(Documents, AreShortEnoughToBeRead) {
+    constexpr std::uintmax_t MaxBytes = 65536;
+    for (fs::path const& document : documents())
+        EXPECT_LE(fs::file_size(document), MaxBytes) << document.filename().generic_string();
+}
+
+/// The folders of the sources, such as "workbench/nodes": those that hold a
+/// source or a header themselves.
+std::set<std::string> sourceFolders() {
+    std::set<std::string> found;
+    for (char const* layer : {"entry", "host", "prism", "runtime", "workbench"})
+        for (fs::directory_entry const& entry : fs::recursive_directory_iterator(root / layer))
+            if (entry.path().extension() == ".cpp" || entry.path().extension() == ".hpp")
+                found.insert(entry.path().parent_path().lexically_relative(root).generic_string());
+    return found;
+}
+
+TEST(Documents, NameEveryFolderOfTheSources) {
+    std::string const text = textOf(root / "docs/architecture.md");
+    for (std::string const& folder : sourceFolders())
+        EXPECT_NE(text.find("| `" + folder + "`"), std::string::npos)
+            << "the table of folders in docs/architecture.md lacks " << folder;
 }
 
 TEST(Documents, AreFound) {
