@@ -30,7 +30,8 @@ void Table::print(std::FILE* file, std::vector<Group> const& groups) const {
             double const measured = medians_.at(row.measured);
             std::fprintf(file, "| %s | %.4g |", row.what.c_str(), measured);
             for (std::string const& floor : row.floors)
-                std::fprintf(file, " %.4g | %.2f |", medians_.at(floor), measured / medians_.at(floor));
+                std::fprintf(file, " %.4g | %.2f |", medians_.at(floor),
+                             measured / medians_.at(floor));
             std::fprintf(file, "\n");
         }
     }

@@ -9,12 +9,12 @@ namespace {
 using namespace prism;
 
 struct Size {
-    std::size_t colours;
+    std::size_t colors;
     int steps;
 };
 
 std::string text(Size const& size) {
-    return std::to_string(size.colours) + " colours, " + std::to_string(size.steps) + " steps";
+    return std::to_string(size.colors) + " colours, " + std::to_string(size.steps) + " steps";
 }
 
 Orlo::Enum const& light() {
@@ -71,12 +71,12 @@ void addSelection(Group& group, Size const& size) {
         {text(size),
          add(
              "select " + text(size), [converted] { return FarthestPoints(converted); },
-             [size](FarthestPoints& points) { return points.pick(backgrounds(), size.colours); }),
+             [size](FarthestPoints& points) { return points.pick(backgrounds(), size.colors); }),
          {add(
              "plain select " + text(size),
              [points = plainConversion(size.steps)] { return points; },
              [size](std::vector<LabPoint>& points) {
-                 return plainFarthestPoints(std::move(points), backgrounds(), size.colours);
+                 return plainFarthestPoints(std::move(points), backgrounds(), size.colors);
              })}});
 }
 
@@ -85,11 +85,11 @@ void addWhole(Group& group, Size const& size) {
                           add("distinct " + text(size),
                               [size] {
                                   return FarthestPoints(light(), RgbGrid(size.steps))
-                                      .pick(backgrounds(), size.colours);
+                                      .pick(backgrounds(), size.colors);
                               }),
                           {add("plain distinct " + text(size), [size] {
                               return plainFarthestPoints(plainConversion(size.steps), backgrounds(),
-                                                         size.colours);
+                                                         size.colors);
                           })}});
 }
 

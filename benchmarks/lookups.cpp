@@ -5,7 +5,8 @@
 #include "benchmarks/floors.hpp"
 #include "benchmarks/formulas.hpp"
 #include "benchmarks/groups.hpp"
-#include "benchmarks/objects.hpp"
+#include "runtime/lattice/Catalogue.hpp"
+#include "workbench/session/objects.hpp"
 
 namespace benchmarks {
 
@@ -49,6 +50,10 @@ std::string add(std::string const& name, LookUp lookUp) {
     return name;
 }
 
+Orlo::ColormapPtr mapOf(std::string const& key) {
+    return workbench::update(*workbench::create(key), new Orlo::ValuePool);
+}
+
 /// A table with the map's own colours.
 Colors tableOf(Orlo::Colormap const& map) {
     Colors table;
@@ -61,8 +66,9 @@ Colors tableOf(Orlo::Colormap const& map) {
 
 Group lookups() {
     Group group{"One lookup, random scalars", {"inlined table lookup", "virtual table lookup"}, {}};
-    for (std::string const& key : keys()) {
-        Orlo::ColormapPtr const map = update(*create(key), makePool());
+    for (Orlo::WeakCreatorPtr const& entry : Orlo::catalogue()) {
+        std::string const key = entry->keyname("/");
+        Orlo::ColormapPtr const map = mapOf(key);
         auto const table = std::make_shared<Colors const>(tableOf(*map));
         std::shared_ptr<Lookup const> const called = makeTableLookup(*table);
         group.rows.push_back(
@@ -83,7 +89,7 @@ Group formulaLookups() {
     std::string const call =
         add("empty virtual", [&e = *empty, empty](double value) { return e.getColor(value); });
     for (auto const& [key, formula] : formulas()) {
-        Orlo::ColormapPtr const map = update(*create(key), makePool());
+        Orlo::ColormapPtr const map = mapOf(key);
         group.rows.push_back({"`" + key + "`",
                               add("formula map " + key,
                                   [&m = *map, map](double value) { return m.getColor(value); }),

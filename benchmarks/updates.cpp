@@ -3,35 +3,14 @@
 
 #include "benchmarks/allocations.hpp"
 #include "benchmarks/groups.hpp"
-#include "benchmarks/objects.hpp"
 #include "runtime/lattice/Catalogue.hpp"
+#include "workbench/session/objects.hpp"
 
 namespace benchmarks {
 
 using namespace Orlo;
-
-std::vector<std::string> keys() {
-    std::vector<std::string> found;
-    for (WeakCreatorPtr const& creator : catalogue())
-        found.push_back(creator->keyname("/"));
-    return found;
-}
-
-PoolPtr makePool() {
-    return new ValuePool;
-}
-
-ObjectPtr create(std::string const& key) {
-    return findCreator(key)->create({}, Nucleo::Intercube(), nullptr);
-}
-
-ColormapPtr update(VObject& object, PoolPtr const& pool) {
-    VRequest request(pool);
-    object.request(request, 0.0, nullptr, nullptr);
-    ColormapPtr map;
-    readParameter(*dynamic_cast<Tincture&>(object).output(), pool, map);
-    return map;
-}
+using workbench::create;
+using workbench::request;
 
 namespace {
 
@@ -64,22 +43,19 @@ std::vector<Group> updates() {
     Group asked{"Request without a change", {"lock and unlock of a mutex"}, {}};
     std::string const locked = add(
         "mutex", [mutex = std::make_shared<std::mutex>()] { std::scoped_lock const lock(*mutex); });
-    for (std::string const& key : keys()) {
-        addBesideAllocations(first, key, [key] { update(*create(key), makePool()); });
+    for (WeakCreatorPtr const& entry : catalogue()) {
+        std::string const key = entry->keyname("/");
+        addBesideAllocations(first, key, [key] { request(*create(key), new ValuePool); });
 
-        PoolPtr const pool = makePool();
+        PoolPtr const pool = new ValuePool;
         ObjectPtr const object = create(key);
-        update(*object, pool);
+        request(*object, pool);
         addBesideAllocations(again, key, [object, pool] {
-            VRequest request(pool);
-            object->update(request, 0.0);
+            VRequest pull(pool);
+            object->update(pull, 0.0);
         });
         asked.rows.push_back({"`" + key + "`",
-                              add("request " + key,
-                                  [object, pool] {
-                                      VRequest request(pool);
-                                      object->request(request, 0.0, nullptr, nullptr);
-                                  }),
+                              add("request " + key, [object, pool] { request(*object, pool); }),
                               {locked}});
     }
     return {first, again, asked};

@@ -45,17 +45,16 @@ struct Arguments {
 /// Reads "0,1000".
 Interval readRange(std::string const& text) {
     std::size_t const comma = text.find(',');
-    std::optional<double> least, greatest;
+    std::optional<double> min, max;
     if (comma != std::string::npos) {
-        least = readNumber(std::string_view(text).substr(0, comma));
-        greatest = readNumber(std::string_view(text).substr(comma + 1));
+        min = readNumber(std::string_view(text).substr(0, comma));
+        max = readNumber(std::string_view(text).substr(comma + 1));
     }
-    if (!least || !greatest || !std::isfinite(*least) || !std::isfinite(*greatest) ||
-        !(*least < *greatest))
+    if (!min || !max || !std::isfinite(*min) || !std::isfinite(*max) || !(*min < *max))
         throw CallError("the range " + inQuotes(text) +
                         " is not of the form MIN,MAX with two finite numbers, the lower one "
                         "first, such as 0,1000");
-    return {*least, *greatest};
+    return {*min, *max};
 }
 
 /// A line of progress for the length of one piece of work.

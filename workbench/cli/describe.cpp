@@ -33,10 +33,10 @@ Json limitAsJson(std::string const& text) {
 Json parameterAsJson(ParameterFacts const& parameter) {
     return {{"name", parameter.name},
             {"type", parameter.type},
-            {"default", parameter.standard},
+            {"default", parameter.defaultText},
             {"expertLevel", parameter.expertLevel},
-            {"min", limitAsJson(parameter.least)},
-            {"max", limitAsJson(parameter.greatest)}};
+            {"min", limitAsJson(parameter.min)},
+            {"max", limitAsJson(parameter.max)}};
 }
 
 std::string asJson(MapObject const& subject) {
@@ -63,9 +63,8 @@ std::string parametersAsText(Orlo::VObject const& object) {
     std::vector<TableRow> rows{{"name", "type", "default", "expert level", "min", "max"}};
     auto const orDash = [](std::string const& text) { return text.empty() ? "-" : text; };
     for (ParameterFacts const& each : parameters)
-        rows.push_back({"'" + each.name + "'", each.type, "'" + each.standard + "'",
-                        std::to_string(each.expertLevel), orDash(each.least),
-                        orDash(each.greatest)});
+        rows.push_back({"'" + each.name + "'", each.type, "'" + each.defaultText + "'",
+                        std::to_string(each.expertLevel), orDash(each.min), orDash(each.max)});
     return "Parameters, with their texts between quotes:\n" + table(rows, "    ");
 }
 

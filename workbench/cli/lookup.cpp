@@ -68,10 +68,10 @@ std::vector<double> readValues(std::vector<std::string> const& texts) {
 std::string asText(Orlo::Colormap const& map, std::vector<double> const& values) {
     std::string text;
     for (double const value : values) {
-        Orlo::rgba_float_t const colour = map.getColor(value);
+        Orlo::rgba_float_t const color = map.getColor(value);
         text += shortest(value);
-        for (std::size_t i = 0; i < colour.size(); ++i)
-            text += " " + shortest(colour[i]);
+        for (std::size_t i = 0; i < color.size(); ++i)
+            text += " " + shortest(color[i]);
         text += "\n";
     }
     return text;
@@ -80,12 +80,12 @@ std::string asText(Orlo::Colormap const& map, std::vector<double> const& values)
 std::string asJson(Orlo::Colormap const& map, std::vector<double> const& values) {
     Json lookups = Json::array();
     for (double const value : values) {
-        Orlo::rgba_float_t const colour = map.getColor(value);
+        Orlo::rgba_float_t const color = map.getColor(value);
         lookups.push_back({{"value", jsonNumber(value)},
-                           {"red", jsonNumber(colour.red())},
-                           {"green", jsonNumber(colour.green())},
-                           {"blue", jsonNumber(colour.blue())},
-                           {"alpha", jsonNumber(colour.alpha())}});
+                           {"red", jsonNumber(color.red())},
+                           {"green", jsonNumber(color.green())},
+                           {"blue", jsonNumber(color.blue())},
+                           {"alpha", jsonNumber(color.alpha())}});
     }
     return jsonDocument(lookups);
 }

@@ -21,7 +21,7 @@ std::string shortestText(Number value) {
 }
 
 bool isPictureSide(int pixels) {
-    return pixels >= 1 && pixels <= Image::MostPixelsASide;
+    return pixels >= 1 && pixels <= Image::MaxPixelsASide;
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-/// `telmbench run`: a saved network carried out, and its picture.
+/// `telmbench run`: a saved network executed, and its picture.
 #include <cstdio>
 
 #include "workbench/cli/Progress.hpp"
@@ -32,7 +32,7 @@ A line that cannot be carried out is reported; the rest is carried out all the
 same, and the exit status is 1.)";
 
 /// More complaints than these say nothing new.
-constexpr std::size_t MostComplaints = 50;
+constexpr std::size_t MaxComplaints = 50;
 
 struct Arguments {
     std::string network;
@@ -68,11 +68,11 @@ void applySetting(Network& network, std::string const& setting) {
 }
 
 void report(std::string const& file, std::vector<Complaint> const& complaints) {
-    for (std::size_t i = 0; i < complaints.size() && i < MostComplaints; ++i)
+    for (std::size_t i = 0; i < complaints.size() && i < MaxComplaints; ++i)
         std::fprintf(stderr, "telmbench: %s\n", reportOf(pathOf(file), complaints[i]).c_str());
-    if (complaints.size() > MostComplaints)
+    if (complaints.size() > MaxComplaints)
         std::fprintf(stderr, "telmbench: %s: and %zu more like these\n", file.c_str(),
-                     complaints.size() - MostComplaints);
+                     complaints.size() - MaxComplaints);
 }
 
 Orlo::ObjectPtr findViewer(Network const& network, std::string const& name) {
@@ -96,7 +96,7 @@ void run(SessionOptions const& common, Arguments const& given) {
     Session const session(common);
     NodeCreators const kinds;
     Network network;
-    network.carryOut(script);
+    network.execute(script);
     report(given.network, network.complaints());
     for (std::string const& setting : given.settings)
         applySetting(network, setting);

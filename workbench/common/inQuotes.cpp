@@ -4,11 +4,11 @@ namespace workbench {
 
 namespace {
 
-/// Where a cut at `most` bytes splits no UTF-8 character.
-std::size_t cutBefore(std::string_view text, std::size_t most) {
-    while (most > 0 && (static_cast<unsigned char>(text[most]) & 0xC0U) == 0x80U)
-        --most;
-    return most;
+/// Where a cut at `maxBytes` bytes splits no UTF-8 character.
+std::size_t cutBefore(std::string_view text, std::size_t maxBytes) {
+    while (maxBytes > 0 && (static_cast<unsigned char>(text[maxBytes]) & 0xC0U) == 0x80U)
+        --maxBytes;
+    return maxBytes;
 }
 
 std::string printable(char c) {
@@ -21,10 +21,10 @@ std::string printable(char c) {
 
 }  // namespace
 
-std::string inQuotes(std::string_view text, std::size_t most) {
-    bool const tooLong = text.size() > most;
+std::string inQuotes(std::string_view text, std::size_t maxBytes) {
+    bool const tooLong = text.size() > maxBytes;
     std::string result = "'";
-    for (char const c : tooLong ? text.substr(0, cutBefore(text, most)) : text)
+    for (char const c : tooLong ? text.substr(0, cutBefore(text, maxBytes)) : text)
         result += printable(c);
     return result + (tooLong ? "...'" : "'");
 }

@@ -8,8 +8,8 @@
 namespace workbench {
 
 /// The text between single quotes, fit for one line of a message: control
-/// characters are written as `\xNN`, and what exceeds `most` bytes is left out
+/// characters are written as `\xNN`, and what exceeds `maxBytes` bytes is left out
 /// for "...".
-std::string inQuotes(std::string_view text, std::size_t most = 80);
+std::string inQuotes(std::string_view text, std::size_t maxBytes = 80);
 
 }  // namespace workbench

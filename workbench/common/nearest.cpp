@@ -49,7 +49,7 @@ std::optional<std::size_t> unlikeness(std::string const& a, std::string const& b
 }  // namespace
 
 std::vector<std::string> nearest(std::string const& word, std::vector<std::string> const& words,
-                                 std::size_t most) {
+                                 std::size_t maxCount) {
     struct Match {
         std::size_t unlike;
         std::string const* word;
@@ -62,16 +62,16 @@ std::vector<std::string> nearest(std::string const& word, std::vector<std::strin
     std::ranges::stable_sort(matches, {}, &Match::unlike);
     std::vector<std::string> result;
     for (Match const& match : matches)
-        if (result.size() < most && std::ranges::find(result, *match.word) == result.end())
+        if (result.size() < maxCount && std::ranges::find(result, *match.word) == result.end())
             result.push_back(*match.word);
     return result;
 }
 
 std::string suggestion(std::string const& word, std::vector<std::string> const& words,
-                       std::string const& otherwise) {
+                       std::string const& defaultText) {
     std::vector<std::string> const near = nearest(word, words);
     if (near.empty())
-        return otherwise;
+        return defaultText;
     std::string text = "; did you mean ";
     for (std::size_t i = 0; i < near.size(); ++i) {
         if (i > 0)

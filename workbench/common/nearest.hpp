@@ -12,11 +12,11 @@ namespace workbench {
 /// alike is what differs in few letters (swapped neighbours count once), or
 /// begins with or contains the other.
 std::vector<std::string> nearest(std::string const& word, std::vector<std::string> const& words,
-                                 std::size_t most = 3);
+                                 std::size_t maxCount = 3);
 
 /// The nearest words as the end of a message: "; did you mean 'a', 'b' or
 /// 'c'?", or the given text if nothing is near.
 std::string suggestion(std::string const& word, std::vector<std::string> const& words,
-                       std::string const& otherwise = {});
+                       std::string const& defaultText = {});
 
 }  // namespace workbench

@@ -97,10 +97,10 @@ GDALRasterBandH findBand(Dataset const& dataset, std::string const& name, int nu
 
 /// A number that a file may tell; otherwise the given one.
 template <class Tell>
-double told(Tell const& tell, GDALRasterBandH band, double otherwise) {
+double told(Tell const& tell, GDALRasterBandH band, double defaultNumber) {
     int is = 0;
     double const number = tell(band, &is);
-    return is != 0 ? number : otherwise;
+    return is != 0 ? number : defaultNumber;
 }
 
 class GdalGrid : public DataGrid {

@@ -20,7 +20,7 @@ constexpr int CellsAtOnce = 1 << 20;
 
 /// Cells of a whole grid: a picture of 400 MB in memory, and as much again to
 /// write it.
-constexpr std::int64_t MostCells = 100'000'000;
+constexpr std::int64_t MaxCells = 100'000'000;
 
 /// Takes the range of values to the domain of a map, linearly, and values
 /// beyond the one beyond the other. A range of one value goes to the middle.
@@ -49,13 +49,13 @@ using Block = std::function<void(int firstRow, std::span<double const> values)>;
 
 /// Hands a grid over from its top to its bottom, in blocks of whole rows.
 void overBlocks(DataGrid& grid, std::function<void(double)> const& progress, Block const& take) {
-    int const most = std::clamp(CellsAtOnce / grid.width(), 1, grid.height());
-    std::vector<double> values(static_cast<std::size_t>(most) *
+    int const maxRows = std::clamp(CellsAtOnce / grid.width(), 1, grid.height());
+    std::vector<double> values(static_cast<std::size_t>(maxRows) *
                                static_cast<std::size_t>(grid.width()));
-    for (int first = 0; first < grid.height(); first += most) {
+    for (int first = 0; first < grid.height(); first += maxRows) {
         if (progress)
             progress(1.0 * first / grid.height());
-        int const rows = std::min(most, grid.height() - first);
+        int const rows = std::min(maxRows, grid.height() - first);
         std::span<double> const block(
             values.data(), static_cast<std::size_t>(rows) * static_cast<std::size_t>(grid.width()));
         grid.read(first, block);
@@ -101,13 +101,13 @@ Image paint(DataGrid& grid, Orlo::Colormap const& map, Interval const& range,
 }
 
 void checkPaintable(DataGrid const& grid, std::string const& name) {
-    constexpr int most = Image::MostPixelsASide;
+    constexpr int max = Image::MaxPixelsASide;
     std::int64_t const cells = std::int64_t{grid.width()} * grid.height();
-    if (grid.width() <= most && grid.height() <= most && cells <= MostCells)
+    if (grid.width() <= max && grid.height() <= max && cells <= MaxCells)
         return;
     throw WorkError(inQuotes(name, 1000) + " has " + std::to_string(grid.width()) + " x " +
-                    std::to_string(grid.height()) + " cells, and a picture " +
-                    std::to_string(most) + " a side and " + std::to_string(MostCells) +
+                    std::to_string(grid.height()) + " cells, and a picture " + std::to_string(max) +
+                    " a side and " + std::to_string(MaxCells) +
                     " in all at most; make the grid smaller first, for instance by "
                     "'gdal_translate -outsize 8192 0'");
 }

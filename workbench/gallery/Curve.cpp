@@ -29,11 +29,11 @@ double distance(Point const& point, Point const& from, Point const& to) {
 /// first one if none is off by more than the tolerance.
 std::size_t farthest(std::vector<Point> const& points, std::size_t first, std::size_t last) {
     std::size_t best = first;
-    double most = Tolerance;
+    double maxDistance = Tolerance;
     for (std::size_t i = first + 1; i < last; ++i) {
         double const off = distance(points[i], points[first], points[last]);
-        if (off > most) {
-            most = off;
+        if (off > maxDistance) {
+            maxDistance = off;
             best = i;
         }
     }

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "workbench/gallery/tellingSettings.hpp"
+#include "workbench/gallery/presets.hpp"
 #include "workbench/picture/ramp.hpp"
 #include "workbench/session/ParameterFacts.hpp"
 
@@ -12,7 +12,7 @@ namespace workbench {
 
 /// A map with parameters set.
 struct Variant {
-    TellingSetting setting;
+    Preset preset;
     Samples samples;
 };
 

@@ -21,11 +21,11 @@ float companded(double amount) {
 
 }  // namespace
 
-Light lightOf(Tessar::rgba_float_t const& colour) {
-    return {freed(colour.red()), freed(colour.green()), freed(colour.blue())};
+Light lightOf(Tessar::rgba_float_t const& color) {
+    return {freed(color.red()), freed(color.green()), freed(color.blue())};
 }
 
-Tessar::rgba_float_t colourOf(Light const& light) {
+Tessar::rgba_float_t colorOf(Light const& light) {
     return {companded(light.red), companded(light.green), companded(light.blue), 1.0F};
 }
 

@@ -10,12 +10,12 @@ struct Light {
     double red, green, blue;
 };
 
-/// The light of a colour as a screen shows it: components limited to 0 to 1,
+/// The light of a colour as a screen shows it: components clamped to 0 to 1,
 /// NaN as 0, then freed of the sRGB companding. Alpha is ignored.
-Light lightOf(Tessar::rgba_float_t const& colour);
+Light lightOf(Tessar::rgba_float_t const& color);
 
-/// The opaque colour of a light; amounts are limited to 0 to 1.
-Tessar::rgba_float_t colourOf(Light const& light);
+/// The opaque colour of a light; amounts are clamped to 0 to 1.
+Tessar::rgba_float_t colorOf(Light const& light);
 
 /// The lightness L* of CIE 1976, 0 for black to 100 for the white of the screen.
 double lightness(Light const& light);

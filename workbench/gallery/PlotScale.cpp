@@ -10,13 +10,13 @@ namespace {
 /// A part of the axis left free at either end, so that curves stay clear of it.
 constexpr double Margin = 0.04;
 
-constexpr double MostTicks = 6.0;
-constexpr int MostPowersASide = 3;
+constexpr double MaxTicks = 6.0;
+constexpr int MaxPowersASide = 3;
 
 /// The least of 0.25, 0.5, 1, 2.5 and 5 that divides the extent into few ticks.
 double stepFor(double extent) {
     for (double const step : {0.25, 0.5, 1.0, 2.5})
-        if (extent / step < MostTicks)
+        if (extent / step < MaxTicks)
             return step;
     return 5.0;
 }
@@ -39,7 +39,7 @@ double powerOfTen(int exponent) {
 /// The powers of ten up to a number, thinned out, without 1.
 std::vector<double> powersUpTo(double value) {
     int const powers = powersIn(value);
-    int const stride = (powers + MostPowersASide - 1) / MostPowersASide;
+    int const stride = (powers + MaxPowersASide - 1) / MaxPowersASide;
     std::vector<double> ticks;
     for (int i = stride; stride > 0 && i <= powers; i += stride)
         ticks.push_back(powerOfTen(i));
@@ -48,12 +48,12 @@ std::vector<double> powersUpTo(double value) {
 
 }  // namespace
 
-PlotScale::PlotScale(double least, double greatest)
-    : least_(std::min(least, 0.0)),
-      greatest_(std::max(greatest, 1.0)),
-      logarithmic_(-least_ > MostLinear || greatest_ > MostLinear) {
-    bottom_ = straightened(least_);
-    top_ = straightened(greatest_);
+PlotScale::PlotScale(double min, double max)
+    : min_(std::min(min, 0.0)),
+      max_(std::max(max, 1.0)),
+      logarithmic_(-min_ > MaxLinear || max_ > MaxLinear) {
+    bottom_ = straightened(min_);
+    top_ = straightened(max_);
     double const margin = Margin * (top_ - bottom_);
     bottom_ -= margin;
     top_ += margin;
@@ -81,19 +81,19 @@ std::vector<double> PlotScale::ticks() const {
 }
 
 std::vector<double> PlotScale::linearTicks() const {
-    double const step = stepFor(greatest_ - least_);
+    double const step = stepFor(max_ - min_);
     std::vector<double> ticks;
-    for (double i = std::ceil(least_ / step); i * step <= greatest_; ++i)
+    for (double i = std::ceil(min_ / step); i * step <= max_; ++i)
         if (i != 0.0)
             ticks.push_back(i * step);
     return ticks;
 }
 
 std::vector<double> PlotScale::logarithmicTicks() const {
-    std::vector<double> ticks = powersUpTo(greatest_);
-    for (double const power : powersUpTo(-least_))
+    std::vector<double> ticks = powersUpTo(max_);
+    for (double const power : powersUpTo(-min_))
         ticks.push_back(-power);
-    if (least_ <= -1.0)
+    if (min_ <= -1.0)
         ticks.push_back(-1.0);
     return ticks;
 }

@@ -8,14 +8,14 @@ namespace workbench {
 /// Maps numbers to heights, 0 for the bottom and 1 for the top.
 ///
 /// The axis always holds 0 and 1. It is linear as long as that shows what lies
-/// between them; for components that grow beyond `MostLinear` it is linear from
+/// between them; for components that grow beyond `MaxLinear` it is linear from
 /// -1 to 1, and beyond that two powers of ten are as long as the way from 0 to 1.
 class PlotScale {
 public:
-    static constexpr double MostLinear = 10.0;
+    static constexpr double MaxLinear = 10.0;
 
-    /// An axis that holds all from `least` to `greatest`, which are finite.
-    PlotScale(double least, double greatest);
+    /// An axis that holds all from `min` to `max`, which are finite.
+    PlotScale(double min, double max);
 
     bool isLogarithmic() const noexcept { return logarithmic_; }
     double height(double value) const;
@@ -27,8 +27,8 @@ private:
     std::vector<double> linearTicks() const;
     std::vector<double> logarithmicTicks() const;
 
-    double least_;
-    double greatest_;
+    double min_;
+    double max_;
     bool logarithmic_;
     double bottom_;  ///< straightened, with a margin
     double top_;

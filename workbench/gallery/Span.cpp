@@ -17,8 +17,8 @@ public:
             span_.allFinite = false;
             return;
         }
-        span_.least = any_ ? std::min(span_.least, value) : value;
-        span_.greatest = any_ ? std::max(span_.greatest, value) : value;
+        span_.min = any_ ? std::min(span_.min, value) : value;
+        span_.max = any_ ? std::max(span_.max, value) : value;
         any_ = true;
     }
     Span const& span() const noexcept { return span_; }
@@ -32,16 +32,16 @@ private:
 
 Span componentSpan(Samples const& samples) {
     SpanCollector collector;
-    for (Orlo::rgba_float_t const& colour : samples.colours)
-        for (double const component : {colour.red(), colour.green(), colour.blue()})
+    for (Orlo::rgba_float_t const& color : samples.colors)
+        for (double const component : {color.red(), color.green(), color.blue()})
             collector.take(component);
     return collector.span();
 }
 
 Span lightnessSpan(Samples const& samples) {
     SpanCollector collector;
-    for (Orlo::rgba_float_t const& colour : samples.colours)
-        collector.take(lightness(lightOf(colour)));
+    for (Orlo::rgba_float_t const& color : samples.colors)
+        collector.take(lightness(lightOf(color)));
     return collector.span();
 }
 

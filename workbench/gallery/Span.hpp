@@ -7,8 +7,8 @@ namespace workbench {
 
 /// The least and the greatest of some numbers.
 struct Span {
-    double least;
-    double greatest;
+    double min;
+    double max;
     bool allFinite;  ///< false if any was left out for being no finite number
 };
 

@@ -15,12 +15,12 @@ using Remark = std::function<void(std::string const&)>;
 std::vector<Variant> variantsOf(Session const& session, std::string const& key,
                                 Remark const& remark) {
     std::vector<Variant> variants;
-    for (TellingSetting const& setting : tellingSettings(key)) {
+    for (Preset const& preset : presetsFor(key)) {
         try {
-            MapObject const subject(session, key, setting.assignments);
-            variants.push_back({setting, sample(subject.map(), RampColumns)});
+            MapObject const subject(session, key, preset.assignments);
+            variants.push_back({preset, sample(subject.map(), RampColumns)});
         } catch (CallError const& error) {
-            remark(key + ": '" + setting.caption + "' is left out: " + error.what());
+            remark(key + ": '" + preset.caption + "' is left out: " + error.what());
         }
     }
     return variants;

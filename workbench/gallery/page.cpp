@@ -53,9 +53,9 @@ double rounded(double value, double stepsInOne) {
 
 /// A span for people, its ends rounded.
 std::string spanText(Span const& span, double stepsInOne) {
-    std::string const least = readable(rounded(span.least, stepsInOne));
-    std::string const greatest = readable(rounded(span.greatest, stepsInOne));
-    return (least == greatest ? least : least + " to " + greatest) +
+    std::string const min = readable(rounded(span.min, stepsInOne));
+    std::string const max = readable(rounded(span.max, stepsInOne));
+    return (min == max ? min : min + " to " + max) +
            (span.allFinite ? "" : ", and some that are no number");
 }
 
@@ -110,8 +110,8 @@ std::string deficiencies(Exhibit const& exhibit) {
                                            {Deficiency::Deutan, "Deutan"},
                                            {Deficiency::Tritan, "Tritan"}}) {
         Image const ramp =
-            rampOf(exhibit.samples, 1, [kind = deficiency](Orlo::rgba_float_t const& colour) {
-                return colourOf(seenWith(kind, lightOf(colour)));
+            rampOf(exhibit.samples, 1, [kind = deficiency](Orlo::rgba_float_t const& color) {
+                return colorOf(seenWith(kind, lightOf(color)));
             });
         rows +=
             row("strip", name, image(dataUri(ramp), std::string(name) + " view of " + exhibit.key));
@@ -122,11 +122,11 @@ std::string deficiencies(Exhibit const& exhibit) {
 std::string variantRow(Exhibit const& exhibit, Variant const& variant) {
     std::string assignments;
     std::string description = exhibit.key + " with";
-    for (std::string const& each : variant.setting.assignments) {
+    for (std::string const& each : variant.preset.assignments) {
         assignments += element("code", "", escapeHtml(each));
         description += " " + each;
     }
-    return row("variant", escapeHtml(variant.setting.caption) + element("small", "", assignments),
+    return row("variant", escapeHtml(variant.preset.caption) + element("small", "", assignments),
                image(dataUri(rampOf(variant.samples, 1)), description));
 }
 
@@ -137,9 +137,9 @@ std::string orDash(std::string const& text) {
 std::string parameterRow(ParameterFacts const& parameter) {
     std::string cells = element("th", "scope=\"row\"", escapeHtml(parameter.name));
     cells += element("td", "", escapeHtml(parameter.type));
-    cells += element("td", "", element("code", "", escapeHtml(parameter.standard)));
+    cells += element("td", "", element("code", "", escapeHtml(parameter.defaultText)));
     for (std::string const& text :
-         {std::to_string(parameter.expertLevel), parameter.least, parameter.greatest})
+         {std::to_string(parameter.expertLevel), parameter.min, parameter.max})
         cells += element("td", "class=\"number\"", orDash(text));
     return element("tr", "", cells) + "\n";
 }

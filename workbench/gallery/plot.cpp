@@ -22,7 +22,7 @@ constexpr double Width = 640.0;
 constexpr double ComponentsHeight = 180.0;
 constexpr double LightnessHeight = 90.0;
 constexpr double RangeHeight = 18.0;  ///< for the numbers below
-constexpr double LeastLabelDistance = 12.0;
+constexpr double MinLabelDistance = 12.0;
 
 std::string pixels(double value) {
     return Orlo::numberText(std::floor(value * 100.0 + 0.5) / 100.0);
@@ -46,7 +46,7 @@ std::string label(char const* style, double x, double y, std::string const& text
 /// A line with its number before it, if that is far from those that stand.
 std::string tick(char const* style, double y, std::string const& text, std::vector<double>& taken) {
     bool const fits = std::ranges::all_of(
-        taken, [y](double other) { return std::abs(other - y) >= LeastLabelDistance; });
+        taken, [y](double other) { return std::abs(other - y) >= MinLabelDistance; });
     if (fits)
         taken.push_back(y);
     return line(style, 0, y, Width, y) + (fits ? label("tick", -7, y + 4, text) : "");
@@ -60,14 +60,14 @@ std::string quarters(double height) {
 }
 
 using Quantity = std::function<double(Orlo::rgba_float_t const&)>;
-using Place = std::function<double(double)>;
+using Position = std::function<double(double)>;
 
 std::string curve(Samples const& samples, char const* style, Quantity const& quantity,
-                  Place const& place) {
+                  Position const& position) {
     std::vector<std::optional<double>> heights;
-    for (Orlo::rgba_float_t const& colour : samples.colours) {
-        double const value = quantity(colour);
-        heights.push_back(std::isfinite(value) ? std::optional(place(value)) : std::nullopt);
+    for (Orlo::rgba_float_t const& color : samples.colors) {
+        double const value = quantity(color);
+        heights.push_back(std::isfinite(value) ? std::optional(position(value)) : std::nullopt);
     }
     return "<path class=\"curve " + std::string(style) + "\" d=\"" + curvePath(heights, Width) +
            "\"/>";
@@ -80,7 +80,7 @@ std::string drawing(std::string const& title, double height, std::string const& 
 
 PlotScale scaleFor(Samples const& samples) {
     Span const span = componentSpan(samples);
-    return {span.least, span.greatest};
+    return {span.min, span.max};
 }
 
 /// The numbers of the axis; 0 and 1 come first, so that they have their place.
@@ -99,29 +99,35 @@ bool isLogarithmic(Samples const& samples) {
 
 std::string componentPlot(Samples const& samples) {
     PlotScale const scale = scaleFor(samples);
-    auto const place = [&](double value) { return (1.0 - scale.height(value)) * ComponentsHeight; };
+    auto const position = [&](double value) {
+        return (1.0 - scale.height(value)) * ComponentsHeight;
+    };
     std::string content = rectangle("beyond", 0, ComponentsHeight) +
-                          rectangle("within", place(1), place(0)) + quarters(ComponentsHeight);
+                          rectangle("within", position(1), position(0)) +
+                          quarters(ComponentsHeight);
     std::vector<double> taken;
     for (double const value : ticksByWeight(scale))
-        content += tick(value == 0.0 || value == 1.0 ? "mark" : "grid", place(value),
+        content += tick(value == 0.0 || value == 1.0 ? "mark" : "grid", position(value),
                         readable(value), taken);
     constexpr std::array Styles{"red", "green", "blue"};
     for (std::size_t i = 0; i < Styles.size(); ++i)
         content += curve(
-            samples, Styles[i], [i](auto const& colour) { return double{colour[i]}; }, place);
+            samples, Styles[i], [i](auto const& color) { return double{color[i]}; }, position);
     return drawing("Red, green and blue over the range", ComponentsHeight, content);
 }
 
 std::string lightnessPlot(Samples const& samples) {
-    auto const place = [](double value) { return 4.0 + (1.0 - value / 100.0) * LightnessHeight; };
-    double const bottom = place(0) + 4.0;
+    auto const position = [](double value) {
+        return 4.0 + (1.0 - value / 100.0) * LightnessHeight;
+    };
+    double const bottom = position(0) + 4.0;
     std::string content = rectangle("within", 0, bottom) + quarters(bottom);
     std::vector<double> taken;
     for (double const value : {0.0, 50.0, 100.0})
-        content += tick("grid", place(value), readable(value), taken);
+        content += tick("grid", position(value), readable(value), taken);
     content += curve(
-        samples, "lightness", [](auto const& colour) { return lightness(lightOf(colour)); }, place);
+        samples, "lightness", [](auto const& color) { return lightness(lightOf(color)); },
+        position);
     for (double const part : {0.0, 0.25, 0.5, 0.75, 1.0})
         content += label(part == 0.0   ? "first"
                          : part == 1.0 ? "last"

@@ -77,12 +77,12 @@ Orlo::SlotPtr findParameter(Orlo::VObject const& object, string const& name) {
 }
 
 /// Throws `CallError` if the text cannot stand in a line of a script.
-void checkWritable(ValuePlace const& place, string const& text) {
-    ParameterLine const line{place.object, place.name, place.context, text};
+void checkWritable(ValuePath const& path, string const& text) {
+    ParameterLine const line{path.object, path.name, path.context, text};
     if (std::holds_alternative<UnreadableLine>(meaningOf(*textOf(line))))
         throw CallError("the text " + inQuotes(text) +
                         " cannot stand in a saved network; it must be one line of at most " +
-                        std::to_string(Script::LongestLine) + " bytes");
+                        std::to_string(Script::MaxLineLength) + " bytes");
 }
 
 /// The value that stands in the pool itself, or without a pool the own one.
@@ -137,21 +137,21 @@ string Network::attribute(string const& object, string const& name) const {
     return found != attributes->second.end() ? found->second : string();
 }
 
-// --- carrying out
+// --- executing
 
-void Network::carryOut(Script const& script) {
+void Network::execute(Script const& script) {
     script_ = script;
     complaints_.clear();
     missing_.clear();
     for (Line const& line : script_.lines)
-        carryOut(line);
+        execute(line);
     if (script_.endsOpen)
         complaints_.push_back({script_.lines.back().number, "",
                                "the last line has no line feed; is the file cut off?", false});
     reportMissing();
 }
 
-void Network::carryOut(Line const& line) {
+void Network::execute(Line const& line) {
     if (needsMissing(line.meaning))
         return;
     try {
@@ -250,34 +250,34 @@ void Network::apply(UnreadableLine const& line) {
 // --- changes
 
 void Network::set(string const& text, string const& value) {
-    auto const place = placeOf(text);
-    if (!place)
+    auto const path = valuePathOf(text);
+    if (!path)
         throw CallError(inQuotes(text) + " is no place of a value; it must have the form " +
                         "OBJECT.NAME or OBJECT.NAME{CONTEXT}");
-    checkWritable(*place, value);
-    if (isAttribute(place->name) && place->context.empty())
-        setAttribute(*place, value);
+    checkWritable(*path, value);
+    if (isAttribute(path->name) && path->context.empty())
+        setAttribute(*path, value);
     else
-        setValue(*place, value);
+        setValue(*path, value);
 }
 
-void Network::setAttribute(ValuePlace const& place, string const& text) {
-    static_cast<void>(object(place.object));
-    checkAttribute(place.name, text);
-    attributes_[place.object][place.name] = text;
-    writeValue(script_, place, text, {});
+void Network::setAttribute(ValuePath const& path, string const& text) {
+    static_cast<void>(object(path.object));
+    checkAttribute(path.name, text);
+    attributes_[path.object][path.name] = text;
+    writeValue(script_, path, text, {});
 }
 
-void Network::setValue(ValuePlace const& place, string const& text) {
-    Orlo::ObjectPtr const subject = object(place.object);
-    Orlo::PoolPtr const context = knownPool(place.context);
-    Orlo::SlotPtr const slot = findParameter(*subject, place.name);
+void Network::setValue(ValuePath const& path, string const& text) {
+    Orlo::ObjectPtr const subject = object(path.object);
+    Orlo::PoolPtr const context = knownPool(path.context);
+    Orlo::SlotPtr const slot = findParameter(*subject, path.name);
     Orlo::ValuePtr const present = valueAt(*slot->ownParameter(), context);
     Orlo::ValuePtr const before = present ? present->copy() : nullptr;
-    setParameter(*subject, place.name, text, context);
+    setParameter(*subject, path.name, text, context);
     Orlo::ValuePtr const after = valueAt(*slot->ownParameter(), context);
     if (!before || after->differs(before))
-        writeValue(script_, place, after->text(), parameterNames(*subject));
+        writeValue(script_, path, after->text(), parameterNames(*subject));
 }
 
 /// The pool of a context that the network knows: a viewer's, or one that a line

@@ -22,12 +22,12 @@ public:
     Network& operator=(Network const&) = delete;
     ~Network() override = default;
 
-    /// Carries a script out, line by line. A line that cannot be carried out is
+    /// Executes a script, line by line. A line that cannot be executed is
     /// complained of and passed by; what depends on an object that could not be
     /// made is only counted. The script becomes the one that `save` writes.
-    void carryOut(Script const& script);
+    void execute(Script const& script);
 
-    /// What could not be carried out, in the order of the lines.
+    /// What could not be executed, in the order of the lines.
     std::vector<Complaint> const& complaints() const noexcept { return complaints_; }
 
     /// The object of that name. Throws `CallError` with the nearest names if
@@ -49,7 +49,7 @@ public:
     /// or `Camera.qTelm::Net::x`, and the lines that say so. Throws `CallError`
     /// for an unknown place (with the nearest names) and for a text that does
     /// not parse; nothing has changed then.
-    void set(std::string const& place, std::string const& text);
+    void set(std::string const& path, std::string const& text);
 
     /// The network as it now stands, as the text of a script.
     std::string save() const { return script_.write(); }
@@ -61,7 +61,7 @@ private:
         std::size_t concerned;  ///< further lines that need it
     };
 
-    void carryOut(Line const& line);
+    void execute(Line const& line);
     /// Whether the line needs an object that could not be made; counts it then.
     bool needsMissing(Meaning const& meaning);
     void reportMissing();
@@ -82,8 +82,8 @@ private:
     void apply(BannerLine const&) {}
     void apply(AnnouncementLine const&) {}
 
-    void setAttribute(ValuePlace const& place, std::string const& text);
-    void setValue(ValuePlace const& place, std::string const& text);
+    void setAttribute(ValuePath const& path, std::string const& text);
+    void setValue(ValuePath const& path, std::string const& text);
     Orlo::PoolPtr knownPool(std::string const& context);
 
     Script script_;

@@ -84,8 +84,8 @@ Meaning commentMeaning(string_view text) {
         text.size() > NoteBegin.size() + NoteEnd.size()) {
         text.remove_prefix(NoteBegin.size());
         text.remove_suffix(NoteEnd.size());
-        if (auto const place = placeOf(text); place && place->context.empty())
-            return NoteLine{place->object, place->name};
+        if (auto const path = valuePathOf(text); path && path->context.empty())
+            return NoteLine{path->object, path->name};
     }
     return CommentLine{};
 }
@@ -103,15 +103,15 @@ Meaning connectionMeaning(string_view consumer, string_view provider) {
 }
 
 /// `Camera.zoom.double(max)` and `140`
-Meaning propertyMeaning(string_view place, string_view value) {
-    std::size_t const open = place.find('(');
+Meaning propertyMeaning(string_view target, string_view value) {
+    std::size_t const open = target.find('(');
     if (open == string_view::npos)
         return unreadable("the value must stand in double quotes, as OBJECT.NAME=\"VALUE\"");
-    string_view const path = place.substr(0, open);
-    string_view const name = place.substr(open + 1, place.size() - open - 2);
+    string_view const path = target.substr(0, open);
+    string_view const name = target.substr(open + 1, target.size() - open - 2);
     std::size_t const first = path.find('.');
     std::size_t const last = path.rfind('.');
-    if (!place.ends_with(')') || !isName(name) || last == string_view::npos || last == first ||
+    if (!target.ends_with(')') || !isName(name) || last == string_view::npos || last == first ||
         !isName(path.substr(0, first)) || !isName(path.substr(last + 1)) ||
         !isParameterName(path.substr(first + 1, last - first - 1)))
         return unreadable("a property must stand as OBJECT.PARAMETER.TYPE(NAME)=VALUE");
@@ -122,8 +122,8 @@ Meaning propertyMeaning(string_view place, string_view value) {
                         string(path.substr(last + 1)), string(name), string(value)};
 }
 
-Meaning parameterMeaning(string_view place, string_view quotedValue) {
-    auto const where = placeOf(place);
+Meaning parameterMeaning(string_view path, string_view quotedValue) {
+    auto const where = valuePathOf(path);
     if (!where)
         return unreadable(
             "in front of the equals sign a parameter must stand, as OBJECT.NAME or "
@@ -192,7 +192,7 @@ bool isAttribute(string_view name) {
     return name.starts_with(AttributePrefix);
 }
 
-std::optional<ValuePlace> placeOf(string_view text) {
+std::optional<ValuePath> valuePathOf(string_view text) {
     auto const parts = halves(text, ".");
     if (!parts || !isName(parts->front))
         return std::nullopt;
@@ -207,13 +207,13 @@ std::optional<ValuePlace> placeOf(string_view text) {
     }
     if (!isParameterName(name))
         return std::nullopt;
-    return ValuePlace{string(parts->front), string(name), string(context)};
+    return ValuePath{string(parts->front), string(name), string(context)};
 }
 
 Meaning meaningOf(string_view text) {
-    if (text.size() > Script::LongestLine)
+    if (text.size() > Script::MaxLineLength)
         return unreadable("the line has " + std::to_string(text.size()) + " bytes; more than " +
-                          std::to_string(Script::LongestLine) + " are not read");
+                          std::to_string(Script::MaxLineLength) + " are not read");
     if (hasControlCharacter(text))
         return unreadable("the line holds a control character; is the file a text?");
     if (withoutBlanksBehind(text).empty())
@@ -223,11 +223,11 @@ Meaning meaningOf(string_view text) {
     std::size_t const equals = text.find('=');
     if (equals == string_view::npos)
         return objectMeaning(text);
-    string_view const place = text.substr(0, equals);
+    string_view const path = text.substr(0, equals);
     string_view const value = text.substr(equals + 1);
     if (value.starts_with('>'))
-        return connectionMeaning(place, value.substr(1));
-    return value.starts_with('"') ? parameterMeaning(place, value) : propertyMeaning(place, value);
+        return connectionMeaning(path, value.substr(1));
+    return value.starts_with('"') ? parameterMeaning(path, value) : propertyMeaning(path, value);
 }
 
 Script Script::read(string_view text) {

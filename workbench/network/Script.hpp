@@ -108,7 +108,7 @@ struct Line {
 };
 
 /// The place of a value: `Camera.zoom`, `Camera.zoom{Viewer1}`.
-struct ValuePlace {
+struct ValuePath {
     std::string object;
     std::string name;
     std::string context;
@@ -122,7 +122,7 @@ struct ValuePlace {
 class Script {
 public:
     /// A line of more bytes than this is none that is read.
-    static constexpr std::size_t LongestLine = 65536;
+    static constexpr std::size_t MaxLineLength = 65536;
 
     /// Reads a text. Throws `WorkError` for what is no script: an empty text,
     /// one with zero bytes, one that does not begin with the banner.
@@ -149,7 +149,7 @@ std::optional<std::string> textOf(Meaning const& meaning);
 std::string objectOf(Meaning const& meaning);
 
 /// Reads `Camera.zoom{Viewer1}`; nothing if it has not that form.
-std::optional<ValuePlace> placeOf(std::string_view text);
+std::optional<ValuePath> valuePathOf(std::string_view text);
 
 /// Whether a parameter name is that of an attribute of the network editor.
 bool isAttribute(std::string_view name);

@@ -10,21 +10,21 @@ namespace {
 constexpr std::array<char const*, 4> AttributeOrder{"qTelm::Net::ExpertLevel", "qTelm::Net::status",
                                                     "qTelm::Net::x", "qTelm::Net::y"};
 
-Meaning meaningFor(ValuePlace const& place, std::string const& value) {
-    if (isAttribute(place.name) && place.context.empty())
-        return AttributeLine{place.object, place.name, value};
-    return ParameterLine{place.object, place.name, place.context, value};
+Meaning meaningFor(ValuePath const& path, std::string const& value) {
+    if (isAttribute(path.name) && path.context.empty())
+        return AttributeLine{path.object, path.name, value};
+    return ParameterLine{path.object, path.name, path.context, value};
 }
 
 /// The value that a line gives to the place; null if it is about another.
-std::string* valueAt(Line& line, ValuePlace const& place) {
+std::string* valueAt(Line& line, ValuePath const& path) {
     if (auto* const parameter = std::get_if<ParameterLine>(&line.meaning))
-        if (parameter->object == place.object && parameter->name == place.name &&
-            parameter->context == place.context)
+        if (parameter->object == path.object && parameter->name == path.name &&
+            parameter->context == path.context)
             return &parameter->value;
     if (auto* const attribute = std::get_if<AttributeLine>(&line.meaning))
-        if (attribute->object == place.object && attribute->name == place.name &&
-            place.context.empty())
+        if (attribute->object == path.object && attribute->name == path.name &&
+            path.context.empty())
             return &attribute->value;
     return nullptr;
 }
@@ -44,32 +44,32 @@ bool begins(Line const& line, std::string const& object) {
 /// Tells which lines of an object a new value stands behind.
 class Order {
 public:
-    Order(ValuePlace const& place, std::vector<std::string> const& parameters)
-        : place_(place), parameters_(parameters) {}
+    Order(ValuePath const& path, std::vector<std::string> const& parameters)
+        : path_(path), parameters_(parameters) {}
 
     bool precedes(ParameterLine const& line) const {
-        return line.name == place_.name ? !line.context.empty() : isEarlier(line.name);
+        return line.name == path_.name ? !line.context.empty() : isEarlier(line.name);
     }
     bool precedes(PropertyLine const& line) const { return isEarlier(line.parameter); }
     bool precedes(NoteLine const& line) const { return isEarlier(line.parameter); }
     bool precedes(AttributeLine const& line) const {
-        return isAttribute(place_.name) &&
-               rank(AttributeOrder, line.name) < rank(AttributeOrder, place_.name);
+        return isAttribute(path_.name) &&
+               rank(AttributeOrder, line.name) < rank(AttributeOrder, path_.name);
     }
     bool precedes(auto const&) const { return false; }
 
 private:
     bool isEarlier(std::string const& name) const {
-        return isAttribute(place_.name) || rank(parameters_, name) < rank(parameters_, place_.name);
+        return isAttribute(path_.name) || rank(parameters_, name) < rank(parameters_, path_.name);
     }
 
-    ValuePlace const& place_;
+    ValuePath const& path_;
     std::vector<std::string> const& parameters_;
 };
 
 /// Where the new line belongs, behind the object's beginning at `start`.
 /// Parameters that stand behind the attributes do not count.
-std::size_t placeFor(Script const& script, std::size_t start, std::string const& object,
+std::size_t indexFor(Script const& script, std::size_t start, std::string const& object,
                      Order const& order) {
     std::size_t behind = start + 1;
     bool attributesSeen = false;
@@ -97,23 +97,23 @@ void insertLine(Script& script, std::size_t at, Meaning const& meaning) {
 
 }  // namespace
 
-void writeValue(Script& script, ValuePlace const& place, std::string const& value,
+void writeValue(Script& script, ValuePath const& path, std::string const& value,
                 std::vector<std::string> const& parameterOrder) {
     auto& lines = script.lines;
     auto const present = std::find_if(lines.rbegin(), lines.rend(),
-                                      [&](Line& line) { return valueAt(line, place) != nullptr; });
+                                      [&](Line& line) { return valueAt(line, path) != nullptr; });
     if (present != lines.rend()) {
-        *valueAt(*present, place) = value;
+        *valueAt(*present, path) = value;
         present->text = *textOf(present->meaning);
         return;
     }
     auto const begin = std::find_if(lines.rbegin(), lines.rend(),
-                                    [&](Line const& line) { return begins(line, place.object); });
+                                    [&](Line const& line) { return begins(line, path.object); });
     if (begin == lines.rend())
         return;
     auto const start = static_cast<std::size_t>(lines.rend() - begin) - 1;
-    insertLine(script, placeFor(script, start, place.object, Order(place, parameterOrder)),
-               meaningFor(place, value));
+    insertLine(script, indexFor(script, start, path.object, Order(path, parameterOrder)),
+               meaningFor(path, value));
 }
 
 }  // namespace workbench

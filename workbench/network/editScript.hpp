@@ -15,7 +15,7 @@ namespace workbench {
 /// those. A line that says the same already keeps its text.
 ///
 /// An object that the script does not hold is left out.
-void writeValue(Script& script, ValuePlace const& place, std::string const& value,
+void writeValue(Script& script, ValuePath const& path, std::string const& value,
                 std::vector<std::string> const& parameterOrder);
 
 }  // namespace workbench

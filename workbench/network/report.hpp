@@ -1,4 +1,4 @@
-/// What went wrong while a script was carried out.
+/// What went wrong while a script was executed.
 #pragma once
 
 #include <cstddef>
@@ -8,7 +8,7 @@
 
 namespace workbench {
 
-/// One line that could not be carried out, or a remark on one.
+/// One line that could not be executed, or a remark on one.
 struct Complaint {
     std::size_t line;       ///< number of the line in the script
     std::string text;       ///< the line as it stands; empty for a remark on it

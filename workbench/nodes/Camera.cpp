@@ -37,8 +37,8 @@ public:
         lookat_.read(pool, view.lookat);
         up_.read(pool, view.up);
         zoom_.read(pool, view.zoom);
-        near_.read(pool, view.nearest);
-        far_.read(pool, view.farthest);
+        near_.read(pool, view.minDepth);
+        far_.read(pool, view.maxDepth);
         FlagList flags;
         options_.read(pool, flags);
         bool known = false;
@@ -52,8 +52,8 @@ private:
     TypedSlot<Point> lookat_{this, "lookat", View().lookat, 0};
     TypedSlot<Point> up_{this, "up", View().up, 0};
     TypedSlot<double> zoom_{this, "zoom", View().zoom, 0};
-    TypedSlot<double> near_{this, "near", View().nearest, 0};
-    TypedSlot<double> far_{this, "far", View().farthest, 0};
+    TypedSlot<double> near_{this, "near", View().minDepth, 0};
+    TypedSlot<double> far_{this, "far", View().maxDepth, 0};
     TypedSlot<FlagList> options_{this, "options", FlagList(" -Orthographic", ' '), 0};
     TypedSlot<VTime> time_{this, "time", VTime(0, 0, 1, 0.1, "", "", ""), 0};
     Output<ViewPtr> view_{this, "::view"};

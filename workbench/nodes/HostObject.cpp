@@ -16,7 +16,7 @@ void HostObject::makePresence() {
     Output<PresencePtr>(this, "::object");
 }
 
-Keeper::Keeper(std::string const& name) : HostObject(name) {
+Placeholder::Placeholder(std::string const& name) : HostObject(name) {
     makePresence();
 }
 

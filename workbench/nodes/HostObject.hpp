@@ -21,9 +21,9 @@ protected:
 
 /// A host object whose behaviour no picture needs: it keeps its parameters and
 /// connections, and provides its presence.
-class Keeper : public HostObject {
+class Placeholder : public HostObject {
 public:
-    explicit Keeper(std::string const& name);
+    explicit Placeholder(std::string const& name);
 };
 
 }  // namespace workbench

@@ -8,7 +8,7 @@ namespace workbench {
 
 Node::Node(std::string const& name, int kind, Orlo::PreferencesPtr const& preferences)
     : VObject(name, kind, preferences) {
-    registerSceneTypes();
+    registerNodeTypes();
 }
 
 Orlo::SlotPtr Node::makeInput(std::string const&) {

@@ -18,14 +18,14 @@ constexpr char const* GridName = "AnalyticUniformGrid";
 constexpr char const* FieldName = "radialfield";
 
 /// More samples than this would not fit into a texture.
-constexpr int MostSamples = 2048;
+constexpr int MaxSamples = 2048;
 
-/// The hill over time: in `steps` equal steps from time 0 to `last` it sinks;
+/// The hill over time: in `steps` equal steps from time 0 to `maxTime` it sinks;
 /// before and after it rests. A time between two steps shows the nearer one.
 class HillBundle : public Bundle {
 public:
-    HillBundle(UniformGrid const& grid, int steps, double last, double height)
-        : grid_(grid), steps_(steps), last_(last), height_(height) {}
+    HillBundle(UniformGrid const& grid, int steps, double maxTime, double height)
+        : grid_(grid), steps_(steps), maxTime_(maxTime), height_(height) {}
 
     bool hasGrid(std::string const& grid) const override { return grid == GridName; }
 
@@ -37,15 +37,15 @@ public:
 
 private:
     double age(double time) const {
-        if (steps_ < 1 || !(last_ > 0) || !(time > 0))
+        if (steps_ < 1 || !(maxTime_ > 0) || !(time > 0))
             return 0.0;
-        double const part = time < last_ ? time / last_ : 1.0;
+        double const part = time < maxTime_ ? time / maxTime_ : 1.0;
         return static_cast<int>(part * steps_ + 0.5) / static_cast<double>(steps_);
     }
 
     UniformGrid grid_;
     int steps_;
-    double last_;
+    double maxTime_;
     double height_;
 };
 
@@ -66,15 +66,15 @@ public:
     bool update(VRequest& request, double) override {
         PoolPtr const& pool = request.pool();
         int samples = 2, steps = 0;
-        double halfEdge = 1, last = 1, height = 1;
+        double halfEdge = 1, maxTime = 1, height = 1;
         gridsize_.read(pool, samples);
         size_.read(pool, halfEdge);
         timesteps_.read(pool, steps);
-        tmax_.read(pool, last);
+        tmax_.read(pool, maxTime);
         a_.read(pool, height);
-        UniformGrid const grid{std::clamp(samples, 2, MostSamples),
+        UniformGrid const grid{std::clamp(samples, 2, MaxSamples),
                                halfEdge > 0 && halfEdge < 1e100 ? halfEdge : 1.0};
-        bundle_.publish(pool, std::make_shared<HillBundle>(grid, steps, last, height));
+        bundle_.publish(pool, std::make_shared<HillBundle>(grid, steps, maxTime, height));
         return true;
     }
 

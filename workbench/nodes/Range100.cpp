@@ -20,14 +20,14 @@ public:
     bool update(VRequest& request, double) override {
         PoolPtr const& pool = request.pool();
         Enum mode;
-        double scale = 100, least = 0, greatest = 100, offset = 0;
+        double scale = 100, min = 0, max = 100, offset = 0;
         mode_.read(pool, mode);
         scale_.read(pool, scale);
-        min_.read(pool, least);
-        max_.read(pool, greatest);
+        min_.read(pool, min);
+        max_.read(pool, max);
         offset_.read(pool, offset);
-        range_.publish(pool, mode.Equal("ScaleOffset") ? Range(offset, offset + scale)
-                                                       : Range(least, greatest));
+        range_.publish(pool,
+                       mode.Equal("ScaleOffset") ? Range(offset, offset + scale) : Range(min, max));
         return true;
     }
 

@@ -10,7 +10,7 @@ namespace {
 
 /// Whether a picture can have so many pixels a side.
 bool isSide(double pixels) {
-    return pixels >= 1 && pixels <= Image::MostPixelsASide;
+    return pixels >= 1 && pixels <= Image::MaxPixelsASide;
 }
 
 }  // namespace
@@ -25,7 +25,7 @@ Shown Viewer::shown(Orlo::PoolPtr const& pool) const {
     size_.read(pool, size);
     if (!isSide(size.first) || !isSide(size.second))
         throw WorkError("the size of '" + Name() + "' is " + Orlo::VValueTrait<Pair>::Text(size) +
-                        "; a picture has 1 to " + std::to_string(Image::MostPixelsASide) +
+                        "; a picture has 1 to " + std::to_string(Image::MaxPixelsASide) +
                         " pixels a side, such as 1046x650");
     shown.width = static_cast<int>(size.first);
     shown.height = static_cast<int>(size.second);

@@ -32,7 +32,7 @@ Orlo::ObjectPtr makeObject(std::string const& kind, std::string const& name) {
         return makeScene(name);
     if (name == "ChartSelector")
         return makeChartSelector(name);
-    return new Keeper(name);
+    return new Placeholder(name);
 }
 
 /// The viewers and cameras that stand, by context, so that each can find the

@@ -10,7 +10,7 @@ namespace workbench {
 /// An object that a network expects to find: `kind` is the catalogue key that
 /// its comment names ("CameraControl", "Create/Webserver"), or empty where it
 /// stands by its name alone. Always gives an object that answers requests; of
-/// what the host does not know it makes a `Keeper`.
+/// what the host does not know it makes a `Placeholder`.
 ///
 /// A viewer looks through the camera of its context: the two are connected as
 /// soon as both are there, whatever their order. A script that connects the

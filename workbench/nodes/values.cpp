@@ -6,7 +6,7 @@
 
 namespace workbench {
 
-void registerSceneTypes() {
+void registerNodeTypes() {
     static bool const once =
         Orlo::registerValueTypes<double, int, bool, Tessar::rgba_float_t, Orlo::Enum,
                                  Orlo::FlagList, Orlo::Range, Orlo::VTime, Point, Box, Pair,
@@ -52,7 +52,7 @@ std::string firstReader(std::string const& text) {
 }  // namespace
 
 std::string inferType(std::string const& text) {
-    registerSceneTypes();
+    registerNodeTypes();
     std::string const name = firstReader<Nothing, bool, double, Orlo::VTime, Orlo::Range,
                                          Tessar::rgba_float_t, Point, Box, Pair, Identifier>(text);
     if (!name.empty())
@@ -113,12 +113,12 @@ std::string VValueTrait<Point>::Text(Point const& value) {
 bool VValueTrait<Box>::setValueFromText(Box& value, std::string const& text) {
     TextReader reader(text);
     Box read;
-    return reader.literal('[') && readPoint(reader, read.least) && reader.literal(';') &&
-           readPoint(reader, read.greatest) && reader.literal(']') && finish(reader, read, value);
+    return reader.literal('[') && readPoint(reader, read.min) && reader.literal(';') &&
+           readPoint(reader, read.max) && reader.literal(']') && finish(reader, read, value);
 }
 std::string VValueTrait<Box>::Text(Box const& value) {
-    return "[" + VValueTrait<Point>::Text(value.least) + ";" +
-           VValueTrait<Point>::Text(value.greatest) + "]";
+    return "[" + VValueTrait<Point>::Text(value.min) + ";" + VValueTrait<Point>::Text(value.max) +
+           "]";
 }
 
 bool VValueTrait<Pair>::setValueFromText(Pair& value, std::string const& text) {

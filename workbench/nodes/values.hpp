@@ -10,8 +10,8 @@ namespace workbench {
 
 /// The part of space between two opposite corners.
 struct Box {
-    Point least;
-    Point greatest;
+    Point min;
+    Point max;
 
     bool operator==(Box const&) const = default;
 };
@@ -30,7 +30,7 @@ struct Nothing {
 };
 
 /// Makes all value types of saved networks known to the host, once. [any]
-void registerSceneTypes();
+void registerNodeTypes();
 
 /// The name of the value type whose text form the text is, as the host's type
 /// registry knows it; a text of no particular form is a `std::string`. [any]

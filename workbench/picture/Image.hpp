@@ -13,20 +13,20 @@ namespace workbench {
 /// Red, green, blue, alpha, each 0 to 255; alpha 255 is opaque.
 using Rgba8 = std::array<std::uint8_t, 4>;
 
-/// A colour as an opaque pixel: components limited to 0..1, NaN as 0, rounded
+/// A colour as an opaque pixel: components clamped to 0..1, NaN as 0, rounded
 /// to nearest. A picture ignores the alpha of colours, as the colours of tables
 /// have none.
-Rgba8 opaque(Tessar::rgba_float_t const& colour);
+Rgba8 opaque(Tessar::rgba_float_t const& color);
 
 /// A picture of `width` times `height` pixels, counted from the left and from
 /// the top. Threads: as a plain value.
 class Image {
 public:
     /// Throws `std::invalid_argument` for a width or height below 1 or above
-    /// `MostPixelsASide`.
+    /// `MaxPixelsASide`.
     Image(int width, int height, Rgba8 fill = {0, 0, 0, 255});
 
-    static constexpr int MostPixelsASide = 16384;
+    static constexpr int MaxPixelsASide = 16384;
 
     int width() const noexcept { return width_; }
     int height() const noexcept { return height_; }
@@ -40,7 +40,7 @@ public:
     }
 
     /// Fills the part of a rectangle that lies in the picture.
-    void fill(int left, int top, int width, int height, Rgba8 colour);
+    void fill(int left, int top, int width, int height, Rgba8 color);
 
     /// All pixels, row by row from the top, without gaps.
     std::vector<Rgba8> const& pixels() const noexcept { return pixels_; }

@@ -14,7 +14,7 @@ namespace workbench {
 /// Evenly spaced lookups, each at the middle of its column, left to right.
 struct Samples {
     Interval domain;  ///< the first column begins at its min, the last one ends at its max
-    std::vector<Orlo::rgba_float_t> colours;  ///< at least one
+    std::vector<Orlo::rgba_float_t> colors;  ///< at least one
 };
 
 /// Looks `count` colours up.

@@ -16,7 +16,7 @@ constexpr int LineHeight = 12;
 /// The corner of one filled rectangle as the font gives it, in dots.
 struct Vertex {
     float x, y, z;
-    unsigned char colour[4];
+    unsigned char color[4];
 };
 constexpr std::size_t Corners = 4;
 
@@ -31,9 +31,9 @@ std::string drawable(std::string_view text) {
 
 /// The rectangles of a text, four corners each.
 std::vector<Vertex> rectangles(std::string_view text) {
-    constexpr std::size_t mostOfOneLetter = 20;  // rectangles; the font has at most 16
+    constexpr std::size_t maxOfOneLetter = 20;  // rectangles; the font has at most 16
     std::string letters = drawable(text);
-    std::vector<Vertex> corners((letters.size() + 1) * mostOfOneLetter * Corners);
+    std::vector<Vertex> corners((letters.size() + 1) * maxOfOneLetter * Corners);
     int const count = stb_easy_font_print(0, 0, letters.data(), nullptr, corners.data(),
                                           static_cast<int>(corners.size() * sizeof(Vertex)));
     corners.resize(static_cast<std::size_t>(count) * Corners);
@@ -50,14 +50,14 @@ int textHeight(int scale) {
     return scale * LineHeight;
 }
 
-void drawText(Image& image, int x, int y, std::string_view text, Rgba8 colour, int scale) {
+void drawText(Image& image, int x, int y, std::string_view text, Rgba8 color, int scale) {
     std::vector<Vertex> const corners = rectangles(text);
     for (std::size_t i = 0; i + Corners <= corners.size(); i += Corners) {
         Vertex const& first = corners[i];
         Vertex const& opposite = corners[i + 2];
         image.fill(x + scale * static_cast<int>(first.x), y + scale * static_cast<int>(first.y),
                    scale * static_cast<int>(opposite.x - first.x),
-                   scale * static_cast<int>(opposite.y - first.y), colour);
+                   scale * static_cast<int>(opposite.y - first.y), color);
     }
 }
 

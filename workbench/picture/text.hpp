@@ -14,6 +14,6 @@ int textHeight(int scale);
 
 /// Draws a text with its upper left corner at the place; what lies outside the
 /// picture is left out.
-void drawText(Image& image, int x, int y, std::string_view text, Rgba8 colour, int scale);
+void drawText(Image& image, int x, int y, std::string_view text, Rgba8 color, int scale);
 
 }  // namespace workbench

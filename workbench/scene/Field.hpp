@@ -17,7 +17,7 @@ struct UniformGrid {
     }
     /// The place of a coordinate among the indices: 0 at the lower face,
     /// `samples` - 1 at the upper one.
-    double place(double coordinate) const {
+    double position(double coordinate) const {
         return (coordinate / halfEdge + 1.0) * 0.5 * (samples - 1);
     }
 

@@ -10,7 +10,7 @@ namespace workbench {
 
 namespace {
 
-void drawColours(Image& image, PixelRect const& bar, Orlo::Colormap const& map) {
+void drawColors(Image& image, PixelRect const& bar, Orlo::Colormap const& map) {
     Interval const domain = domainOf(map);
     int const end = std::min(bar.bottom(), image.height());
     for (int y = std::max(bar.top, 0); y < end; ++y) {
@@ -29,7 +29,7 @@ int labelParts(int height, int lineHeight) {
 }
 
 /// On the right of the bar, or on its left where the right has no room.
-void drawLabels(Image& image, PixelRect const& bar, Interval const& domain, Rgba8 colour) {
+void drawLabels(Image& image, PixelRect const& bar, Interval const& domain, Rgba8 color) {
     int const scale = textScale(image);
     int const parts = labelParts(bar.height, textHeight(scale));
     int const tick = 5 * scale;
@@ -39,9 +39,9 @@ void drawLabels(Image& image, PixelRect const& bar, Interval const& domain, Rgba
         int const width = textWidth(label, scale);
         int const y = bar.bottom() - bar.height * i / parts - scale / 2;
         bool const onRight = width <= room;
-        image.fill(onRight ? bar.right() + scale : bar.left - scale - tick, y, tick, scale, colour);
+        image.fill(onRight ? bar.right() + scale : bar.left - scale - tick, y, tick, scale, color);
         drawText(image, onRight ? bar.right() + 2 * tick : bar.left - 2 * tick - width,
-                 y - textHeight(scale) / 2 + 2 * scale, label, colour, scale);
+                 y - textHeight(scale) / 2 + 2 * scale, label, color, scale);
     }
 }
 
@@ -51,14 +51,14 @@ LegendBar::LegendBar(Orlo::ColormapPtr const& map, LegendStyle const& style)
     : map_(map), style_(style) {}
 
 void LegendBar::drawOver(Image& image) const {
-    PixelRect const bar = placed(style_.position, style_.width, style_.height, image);
+    PixelRect const bar = pixelRect(style_.position, style_.width, style_.height, image);
     if (bar.width < 1 || bar.height < 1)
         return;
     Rgba8 const border = opaque(style_.bordercolor);
     drawFrame(image, bar, textScale(image), border);
     if (!map_)
         return;
-    drawColours(image, bar, *map_);
+    drawColors(image, bar, *map_);
     drawLabels(image, bar, domainOf(*map_), border);
 }
 

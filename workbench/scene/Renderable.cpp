@@ -2,7 +2,7 @@
 
 namespace workbench {
 
-std::optional<Fragment> Renderable::meet(Ray const&) const {
+std::optional<Fragment> Renderable::intersect(Ray const&) const {
     return std::nullopt;
 }
 

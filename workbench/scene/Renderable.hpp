@@ -12,9 +12,9 @@ namespace workbench {
 
 /// What a ray meets.
 struct Fragment {
-    double depth;                 ///< in the direction of the view
-    Tessar::rgba_float_t colour;  ///< its alpha means nothing
-    double opacity;               ///< 0 to 1; 1 hides what is behind
+    double depth;                ///< in the direction of the view
+    Tessar::rgba_float_t color;  ///< its alpha means nothing
+    double opacity;              ///< 0 to 1; 1 hides what is behind
 };
 
 /// Something that a scene shows: in space, or in front of all that is there.
@@ -27,7 +27,7 @@ public:
     static constexpr char const* Description = "A Renderable Object.";
 
     /// What a ray meets of it. [any]
-    virtual std::optional<Fragment> meet(Ray const& ray) const;
+    virtual std::optional<Fragment> intersect(Ray const& ray) const;
     /// Draws what lies in the plane of the picture. [any]
     virtual void drawOver(Image& image) const;
 };

@@ -39,22 +39,22 @@ Ruler::Ruler(Interval const& range, RulerStyle const& style) : range_(range), st
 
 void Ruler::drawOver(Image& image) const {
     int const scale = textScale(image);
-    PixelRect const box = placed(style_.position, style_.width, 0.0, image);
+    PixelRect const box = pixelRect(style_.position, style_.width, 0.0, image);
     if (box.width < 1 || !std::isfinite(range_.min) || !std::isfinite(range_.max))
         return;
     int const line = box.bottom() - textHeight(scale) - 2 * scale;
-    Rgba8 const colour = opaque(style_.color);
-    image.fill(box.left, line, box.width + scale, scale, colour);
+    Rgba8 const color = opaque(style_.color);
+    image.fill(box.left, line, box.width + scale, scale, color);
     int const parts = labelParts(range_, box.width, scale);
     for (int i = 0; i <= MinorMarks * parts; ++i) {
         int const height = (i % MinorMarks == 0 ? 8 : 4) * scale;
         image.fill(box.left + offset(box.width, i, MinorMarks * parts), line - height, scale,
-                   height, colour);
+                   height, color);
     }
     for (int i = 0; i <= parts; ++i) {
         std::string const text = label(range_, i, parts);
         int const middle = box.left + offset(box.width, i, parts);
-        drawText(image, middle - textWidth(text, scale) / 2, line + 3 * scale, text, colour, scale);
+        drawText(image, middle - textWidth(text, scale) / 2, line + 3 * scale, text, color, scale);
     }
 }
 

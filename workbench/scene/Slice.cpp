@@ -21,21 +21,21 @@ struct Between {
     int lower;
     double part;
 
-    Between(double place, int samples)
-        : lower(std::clamp(static_cast<int>(place), 0, samples - 2)), part(place - lower) {}
+    Between(double position, int samples)
+        : lower(std::clamp(static_cast<int>(position), 0, samples - 2)), part(position - lower) {}
 };
 
 /// What lies between two numbers; between two that are equal, also infinite
 /// ones, nothing else.
-double mixed(double a, double b, double part) {
+double lerp(double a, double b, double part) {
     return a == b ? a : a + (b - a) * part;
 }
 
-Tessar::rgba_float_t mixed(Tessar::rgba_float_t const& a, Tessar::rgba_float_t const& b,
-                           double part) {
+Tessar::rgba_float_t lerp(Tessar::rgba_float_t const& a, Tessar::rgba_float_t const& b,
+                          double part) {
     Tessar::rgba_float_t result;
     for (std::size_t i = 0; i < result.size(); ++i)
-        result[i] = static_cast<float>(mixed(double{a[i]}, double{b[i]}, part));
+        result[i] = static_cast<float>(lerp(double{a[i]}, double{b[i]}, part));
     return result;
 }
 
@@ -48,26 +48,26 @@ Slice::Slice(Field const& field, Orlo::ColormapPtr const& map, SliceOptions cons
     sampleField(field);
     if (options_.mode != SliceMode::Smooth)
         return;
-    colours_.reserve(scalars_.size());
+    colors_.reserve(scalars_.size());
     for (double const scalar : scalars_)
-        colours_.push_back(colourOf(scalar));
+        colors_.push_back(colorOf(scalar));
 }
 
 /// The plane may lie between two layers of samples.
 void Slice::sampleField(Field const& field) {
     auto const normal = static_cast<std::size_t>(options_.normal);
-    Between const layer(grid_.place(plane_), grid_.samples);
+    Between const layer(grid_.position(plane_), grid_.samples);
     scalars_.resize(index(0, grid_.samples));
     for (int along = 0; along < grid_.samples; ++along)
         for (int across = 0; across < grid_.samples; ++across) {
-            std::array<int, 3> place{};
-            place[InPlane[normal][0]] = across;
-            place[InPlane[normal][1]] = along;
-            place[normal] = layer.lower;
-            double const lower = field.sample(place[0], place[1], place[2]);
-            ++place[normal];
-            double const upper = field.sample(place[0], place[1], place[2]);
-            scalars_[index(across, along)] = texel(mixed(lower, upper, layer.part));
+            std::array<int, 3> position{};
+            position[InPlane[normal][0]] = across;
+            position[InPlane[normal][1]] = along;
+            position[normal] = layer.lower;
+            double const lower = field.sample(position[0], position[1], position[2]);
+            ++position[normal];
+            double const upper = field.sample(position[0], position[1], position[2]);
+            scalars_[index(across, along)] = texel(lerp(lower, upper, layer.part));
         }
 }
 
@@ -80,7 +80,7 @@ double Slice::texel(double sample) const {
 }
 
 /// The map's domain spans the texture's 0 to 1.
-Tessar::rgba_float_t Slice::colourOf(double scalar) const {
+Tessar::rgba_float_t Slice::colorOf(double scalar) const {
     return map_->getColor(domainOf(*map_).at(scalar));
 }
 
@@ -89,35 +89,35 @@ std::size_t Slice::index(int across, int along) const {
            static_cast<std::size_t>(across);
 }
 
-Tessar::rgba_float_t Slice::colourAt(double across, double along) const {
+Tessar::rgba_float_t Slice::colorAt(double across, double along) const {
     if (options_.mode == SliceMode::Discrete)
-        return colourOf(
+        return colorOf(
             scalars_[index(static_cast<int>(across + 0.5), static_cast<int>(along + 0.5))]);
     Between const x(across, grid_.samples);
     Between const y(along, grid_.samples);
     auto const blend = [&](auto const& texture) {
         std::size_t const corner = index(x.lower, y.lower);
         std::size_t const above = index(x.lower, y.lower + 1);
-        return mixed(mixed(texture[corner], texture[corner + 1], x.part),
-                     mixed(texture[above], texture[above + 1], x.part), y.part);
+        return lerp(lerp(texture[corner], texture[corner + 1], x.part),
+                    lerp(texture[above], texture[above + 1], x.part), y.part);
     };
-    return options_.mode == SliceMode::Smooth ? blend(colours_) : colourOf(blend(scalars_));
+    return options_.mode == SliceMode::Smooth ? blend(colors_) : colorOf(blend(scalars_));
 }
 
-std::optional<Fragment> Slice::meet(Ray const& ray) const {
+std::optional<Fragment> Slice::intersect(Ray const& ray) const {
     auto const normal = static_cast<std::size_t>(options_.normal);
-    auto const place = [&](std::size_t axis, double depth) {
+    auto const position = [&](std::size_t axis, double depth) {
         double Point::*const coordinate = Axes[axis];
-        return grid_.place(ray.origin.*coordinate + depth * (ray.direction.*coordinate));
+        return grid_.position(ray.origin.*coordinate + depth * (ray.direction.*coordinate));
     };
     double const depth = (plane_ - ray.origin.*Axes[normal]) / (ray.direction.*Axes[normal]);
-    double const across = place(InPlane[normal][0], depth);
-    double const along = place(InPlane[normal][1], depth);
+    double const across = position(InPlane[normal][0], depth);
+    double const along = position(InPlane[normal][1], depth);
     double const last = grid_.samples - 1;
     // written so that a ray along the plane, which has no depth, misses
     if (!(across >= 0 && across <= last && along >= 0 && along <= last))
         return std::nullopt;
-    return Fragment{depth, colourAt(across, along), options_.opacity};
+    return Fragment{depth, colorAt(across, along), options_.opacity};
 }
 
 }  // namespace workbench

@@ -23,28 +23,28 @@ struct SliceOptions {
 };
 
 /// The samples of a field in a plane, as a texture: mapped through the data
-/// range to 0..1, limited to that, and rounded to the texture's precision. A
+/// range to 0..1, clamped to that, and rounded to the texture's precision. A
 /// sample that is no number counts as 0, as does every sample if the data range
 /// is empty.
 class Slice : public Renderable {
 public:
     Slice(Field const& field, Orlo::ColormapPtr const& map, SliceOptions const& options);
 
-    std::optional<Fragment> meet(Ray const& ray) const override;
+    std::optional<Fragment> intersect(Ray const& ray) const override;
 
 private:
     void sampleField(Field const& field);
     double texel(double sample) const;
-    Tessar::rgba_float_t colourOf(double scalar) const;
-    Tessar::rgba_float_t colourAt(double across, double along) const;
+    Tessar::rgba_float_t colorOf(double scalar) const;
+    Tessar::rgba_float_t colorAt(double across, double along) const;
     std::size_t index(int across, int along) const;
 
     Orlo::ColormapPtr map_;
     SliceOptions options_;
     UniformGrid grid_;
-    double plane_;                               ///< coordinate of the plane
-    std::vector<double> scalars_;                ///< row by row along the second axis
-    std::vector<Tessar::rgba_float_t> colours_;  ///< of the scalars, with the mode Smooth
+    double plane_;                              ///< coordinate of the plane
+    std::vector<double> scalars_;               ///< row by row along the second axis
+    std::vector<Tessar::rgba_float_t> colors_;  ///< of the scalars, with the mode Smooth
 };
 
 }  // namespace workbench

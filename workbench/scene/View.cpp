@@ -25,9 +25,9 @@ Point cross(Point const& a, Point const& b) {
 }
 
 /// The vector with length 1, or the other one if it has no direction.
-Point normalised(Point const& a, Point const& otherwise) {
+Point normalised(Point const& a, Point const& defaultDirection) {
     double const size = length(a);
-    return size > 0 ? (1 / size) * a : otherwise;
+    return size > 0 ? (1 / size) * a : defaultDirection;
 }
 
 /// A vector of length 1 at a right angle to both, also where they are parallel.

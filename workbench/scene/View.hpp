@@ -21,8 +21,8 @@ struct View {
     Point lookat{0, 0, 0};      ///< the point in the middle of the picture
     Point up{0, 1, 0};          ///< the direction that is upward in the picture
     double zoom = 45.0;         ///< vertical angle in degrees, kept in 0.001 to 170
-    double nearest = 0.02;      ///< depths that are shown, from this one
-    double farthest = 100.0;    ///< to this one
+    double minDepth = 0.02;     ///< depths that are shown, from this one
+    double maxDepth = 100.0;    ///< to this one
     bool orthographic = false;  ///< parallel rays; `lookat` is seen at the same size
 
     static constexpr char const* Description = "A View Object.";

@@ -10,17 +10,14 @@ namespace {
 /// A fraction of a length in whole pixels; what is no number counts as 0, and
 /// all is kept far inside the range of an integer.
 int pixels(double fraction, int length) {
-    constexpr double Most = 1 << 20;
+    constexpr double Max = 1 << 20;
     double const exact = std::floor(fraction * length + 0.5);
-    return static_cast<int>(exact >= Most    ? Most
-                            : exact <= -Most ? -Most
-                            : exact == exact ? exact
-                                             : 0);
+    return static_cast<int>(exact >= Max ? Max : exact <= -Max ? -Max : exact == exact ? exact : 0);
 }
 
 }  // namespace
 
-PixelRect placed(Pair const& position, double width, double height, Image const& image) {
+PixelRect pixelRect(Pair const& position, double width, double height, Image const& image) {
     PixelRect rect;
     rect.left = pixels(position.first, image.width());
     rect.width = pixels(width, image.width());
@@ -41,16 +38,16 @@ std::string labelText(double value) {
     return error == std::errc() ? std::string(digits, end) : std::string();
 }
 
-double markValue(double first, double last, int i, int parts) {
-    return (first * (parts - i) + last * i) / parts;
+double markValue(double min, double max, int i, int parts) {
+    return (min * (parts - i) + max * i) / parts;
 }
 
-void drawFrame(Image& image, PixelRect const& inner, int thickness, Rgba8 colour) {
+void drawFrame(Image& image, PixelRect const& inner, int thickness, Rgba8 color) {
     int const width = inner.width + 2 * thickness;
-    image.fill(inner.left - thickness, inner.top - thickness, width, thickness, colour);
-    image.fill(inner.left - thickness, inner.bottom(), width, thickness, colour);
-    image.fill(inner.left - thickness, inner.top, thickness, inner.height, colour);
-    image.fill(inner.right(), inner.top, thickness, inner.height, colour);
+    image.fill(inner.left - thickness, inner.top - thickness, width, thickness, color);
+    image.fill(inner.left - thickness, inner.bottom(), width, thickness, color);
+    image.fill(inner.left - thickness, inner.top, thickness, inner.height, color);
+    image.fill(inner.right(), inner.top, thickness, inner.height, color);
 }
 
 }  // namespace workbench

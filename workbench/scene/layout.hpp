@@ -24,7 +24,7 @@ struct PixelRect {
 
 /// The rectangle whose lower left corner stands at `position`, all lengths
 /// being fractions of the picture's; rounded to whole pixels.
-PixelRect placed(Pair const& position, double width, double height, Image const& image);
+PixelRect pixelRect(Pair const& position, double width, double height, Image const& image);
 
 /// How large texts are in a picture: pixels for each dot of the font.
 int textScale(Image const& image);
@@ -33,9 +33,9 @@ int textScale(Image const& image);
 std::string labelText(double value);
 
 /// The value of mark `i` of marks 0 to `parts` between two values.
-double markValue(double first, double last, int i, int parts);
+double markValue(double min, double max, int i, int parts);
 
 /// A frame of that thickness around a rectangle.
-void drawFrame(Image& image, PixelRect const& inner, int thickness, Rgba8 colour);
+void drawFrame(Image& image, PixelRect const& inner, int thickness, Rgba8 color);
 
 }  // namespace workbench

@@ -20,9 +20,9 @@ std::vector<ParameterFacts> parametersOf(Orlo::VObject const& object) {
         if (!slot->isInput())
             continue;
         Orlo::VParameter const& parameter = *slot->ownParameter();
-        Orlo::ValuePtr const standard = parameter.DefaultValue();
-        all.push_back({slot->name(), standard ? typeName(standard->type()) : "",
-                       standard ? standard->text() : "", slot->expertLevel(),
+        Orlo::ValuePtr const defaultValue = parameter.DefaultValue();
+        all.push_back({slot->name(), defaultValue ? typeName(defaultValue->type()) : "",
+                       defaultValue ? defaultValue->text() : "", slot->expertLevel(),
                        propertyText(parameter, "min"), propertyText(parameter, "max")});
     }
     return all;

@@ -12,10 +12,10 @@ namespace workbench {
 struct ParameterFacts {
     std::string name;
     std::string type;
-    std::string standard;  ///< the text of its default value
+    std::string defaultText;  ///< the text of its default value
     int expertLevel;
-    std::string least;  ///< advice to the user; empty if there is none
-    std::string greatest;
+    std::string min;  ///< advice to the user; empty if there is none
+    std::string max;
 };
 
 /// The parameters of an object, in their order.

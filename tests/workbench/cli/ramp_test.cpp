@@ -34,7 +34,7 @@ TEST(Ramp, Has512By64PixelsUnlessToldOtherwise) {
 /// With ten columns the middles are 0.05, 0.15, ...: every other tint, from
 /// row 1 on. The floats of 0.7 and 0.9 lie just below, so that 178.5 and 229.5
 /// are not reached.
-TEST(Ramp, EachColumnHasTheColourOfItsMiddle) {
+TEST(Ramp, EachColumnHasTheColorOfItsMiddle) {
     Image const image = ramp({"Hypsometric", "--size", "10x2"});
     Rgba8 const expected[] = {{51, 0, 77, 255},    {0, 0, 217, 255},     {0, 128, 255, 255},
                               {0, 217, 229, 255},  {178, 255, 255, 255}, {0, 178, 0, 255},

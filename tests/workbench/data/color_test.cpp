@@ -78,19 +78,19 @@ TEST(Color, LeavesCellsWithoutDataTransparentAndOutOfTheRange) {
     TemporaryFolder const folder;
     workbench::writeFile(folder / "grid.asc", asciiGrid({{0, -9999, 4}, {-9999, 1, 2}}));
     Image const image = color("Hypsometric", (folder / "grid.asc").string());
-    std::vector<Rgba8> const colours = lookup("Hypsometric", {"0", "1", "0.25", "0.5"});
-    EXPECT_EQ(image.pixels(), (std::vector<Rgba8>{colours[0], Transparent, colours[1], Transparent,
-                                                  colours[2], colours[3]}));
+    std::vector<Rgba8> const colors = lookup("Hypsometric", {"0", "1", "0.25", "0.5"});
+    EXPECT_EQ(image.pixels(), (std::vector<Rgba8>{colors[0], Transparent, colors[1], Transparent,
+                                                  colors[2], colors[3]}));
 }
 
 TEST(Color, LeavesInfinitiesOutOfTheRangeButPaintsThem) {
     Image const image = colorOf("Hypsometric", {{Infinity, 0, NoNumber, 1, -Infinity}});
-    std::vector<Rgba8> const colours = lookup("Hypsometric", {"inf", "0", "1", "-inf"});
+    std::vector<Rgba8> const colors = lookup("Hypsometric", {"inf", "0", "1", "-inf"});
     EXPECT_EQ(image.pixels(),
-              (std::vector<Rgba8>{colours[0], colours[1], Transparent, colours[2], colours[3]}));
+              (std::vector<Rgba8>{colors[0], colors[1], Transparent, colors[2], colors[3]}));
 }
 
-TEST(Color, GivesAGridOfOneValueTheColourOfTheMiddle) {
+TEST(Color, GivesAGridOfOneValueTheColorOfTheMiddle) {
     for (double const value : {0.0, -7.5, 1e300, 5e-324})
         EXPECT_EQ(colorOf("Glow", {{value, value}}).pixels(), lookup("Glow", {"0.5", "0.5"}))
             << value;

@@ -10,8 +10,8 @@ using namespace workbench;
 
 constexpr Deficiency all[] = {Deficiency::Protan, Deficiency::Deutan, Deficiency::Tritan};
 
-Rgba8 pixelSeenWith(Deficiency deficiency, Tessar::rgba_float_t const& colour) {
-    return opaque(colourOf(seenWith(deficiency, lightOf(colour))));
+Rgba8 pixelSeenWith(Deficiency deficiency, Tessar::rgba_float_t const& color) {
+    return opaque(colorOf(seenWith(deficiency, lightOf(color))));
 }
 
 /// Reds, greens and blues look like the columns of the matrices.
@@ -56,7 +56,7 @@ TEST(Deficiency, EveryGreyStaysWithinRounding) {
         }
 }
 
-TEST(Deficiency, ColoursAreMixedAsLight) {
+TEST(Deficiency, ColorsAreMixedAsLight) {
     EXPECT_EQ(pixelSeenWith(Deficiency::Protan, {1, 0, 0, 1}), (Rgba8{109, 95, 0, 255}));
     EXPECT_EQ(pixelSeenWith(Deficiency::Deutan, {1, 0, 0, 1}), (Rgba8{163, 144, 0, 255}));
     EXPECT_EQ(pixelSeenWith(Deficiency::Tritan, {1, 0, 0, 1}), (Rgba8{255, 0, 15, 255}));

@@ -7,7 +7,7 @@
 namespace {
 
 using Tessar::rgba_float_t;
-using workbench::colourOf;
+using workbench::colorOf;
 using workbench::lightness;
 using workbench::lightOf;
 
@@ -16,7 +16,7 @@ constexpr float Infinity = std::numeric_limits<float>::infinity();
 
 struct LightnessCase {
     char const* rule;
-    rgba_float_t colour;
+    rgba_float_t color;
     double lightness;
 };
 
@@ -37,8 +37,8 @@ LightnessCase const lightnessCases[] = {
 };
 
 TEST(Lightness, IsThatOfTheScreen) {
-    for (auto const& [rule, colour, expected] : lightnessCases)
-        EXPECT_NEAR(lightness(lightOf(colour)), expected, 0.01) << rule;
+    for (auto const& [rule, color, expected] : lightnessCases)
+        EXPECT_NEAR(lightness(lightOf(color)), expected, 0.01) << rule;
 }
 
 TEST(Lightness, GrowsWithEveryGrey) {
@@ -59,18 +59,18 @@ TEST(Light, FollowsTheCurveOfSrgb) {
     EXPECT_NEAR(lightOf({0, 0, 0.01F, 1}).blue, 0.01 / 12.92, 1e-9);
 }
 
-TEST(Light, BecomesTheColourAgain) {
+TEST(Light, BecomesTheColorAgain) {
     for (int i = 0; i <= 1000; ++i) {
         float const component = static_cast<float>(i) / 1000.0F;
-        rgba_float_t const colour{component, 1.0F - component, 0.25F, 1};
-        rgba_float_t const again = colourOf(lightOf(colour));
+        rgba_float_t const color{component, 1.0F - component, 0.25F, 1};
+        rgba_float_t const again = colorOf(lightOf(color));
         for (std::size_t channel = 0; channel < 4; ++channel)
-            EXPECT_NEAR(again[channel], colour[channel], 1e-6) << component;
+            EXPECT_NEAR(again[channel], color[channel], 1e-6) << component;
     }
 }
 
 TEST(Light, BeyondTheScreenIsLimited) {
-    EXPECT_EQ(colourOf({-0.1, 1.1, 0.0}), (rgba_float_t{0, 1, 0, 1}));
+    EXPECT_EQ(colorOf({-0.1, 1.1, 0.0}), (rgba_float_t{0, 1, 0, 1}));
 }
 
 }  // namespace

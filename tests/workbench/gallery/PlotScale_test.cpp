@@ -11,8 +11,8 @@ using Numbers = std::vector<double>;
 
 struct ScaleCase {
     char const* rule;
-    double least;
-    double greatest;
+    double min;
+    double max;
     bool logarithmic;
     Numbers ticks;
 };
@@ -31,8 +31,8 @@ ScaleCase const scaleCases[] = {
 };
 
 TEST(PlotScale, TicksAreFewAndHold0And1) {
-    for (auto const& [rule, least, greatest, logarithmic, ticks] : scaleCases) {
-        PlotScale const scale(least, greatest);
+    for (auto const& [rule, min, max, logarithmic, ticks] : scaleCases) {
+        PlotScale const scale(min, max);
         EXPECT_EQ(scale.isLogarithmic(), logarithmic) << rule;
         EXPECT_EQ(scale.ticks().size(), ticks.size()) << rule;
         for (std::size_t i = 0; i < std::min(ticks.size(), scale.ticks().size()); ++i)
@@ -42,15 +42,15 @@ TEST(PlotScale, TicksAreFewAndHold0And1) {
 
 TEST(PlotScale, HeightsRiseAndStayOnTheAxis) {
     for (ScaleCase const& each : scaleCases) {
-        PlotScale const scale(each.least, each.greatest);
+        PlotScale const scale(each.min, each.max);
         double before = 0.0;
         for (double const value : scale.ticks()) {
             EXPECT_GT(scale.height(value), before) << each.rule;
             before = scale.height(value);
         }
         EXPECT_LT(before, 1.0) << each.rule;
-        EXPECT_GE(scale.height(each.least), 0.03) << each.rule;
-        EXPECT_LE(scale.height(each.greatest), 0.97) << each.rule;
+        EXPECT_GE(scale.height(each.min), 0.03) << each.rule;
+        EXPECT_LE(scale.height(each.max), 0.97) << each.rule;
     }
 }
 

@@ -126,8 +126,8 @@ TEST_F(Gallery, SectionsHaveTheParametersInTheirOrder) {
                           "</td><td><code>" + escapeHtml(std::string(parameter["default"])) +
                           "</code></td><td class=\"number\">" + parameter["expertLevel"].dump() +
                           "</td>"));
-            Json const& least = parameter["min"];
-            EXPECT_THAT(section, HasSubstr("<td class=\"number\">" + cell(least) + "</td>"));
+            Json const& min = parameter["min"];
+            EXPECT_THAT(section, HasSubstr("<td class=\"number\">" + cell(min) + "</td>"));
         }
         EXPECT_EQ(between(section, "<th scope=\"row\">", "</th>"), names) << entry["key"];
     }

@@ -28,7 +28,7 @@ constexpr char Text[] =
 
 struct Case {
     char const* rule;
-    char const* place;
+    char const* path;
     char const* value;
     std::size_t line;  ///< from 1
     char const* text;  ///< what then stands there
@@ -65,7 +65,7 @@ Case const Cases[] = {
 TEST(WriteValue, ChangesTheLineConcernedAndNoOther) {
     for (Case const& each : Cases) {
         Script script = Script::read(Text);
-        writeValue(script, *placeOf(each.place), each.value,
+        writeValue(script, *valuePathOf(each.path), each.value,
                    {"zeroth", "first", "second", "third", "fourth", "fifth", "late"});
         std::vector<std::string> expected = splitLines(Text);
         auto const at = expected.begin() + static_cast<std::ptrdiff_t>(each.line) - 1;
@@ -81,8 +81,8 @@ TEST(WriteValue, ChangesTheLineConcernedAndNoOther) {
 TEST(WriteValue, KeepsTheEndsOfLinesThatTheScriptHas) {
     Script script =
         Script::read("# TelmScript Preliminiary Experimental \r\nCreate/Thing A\r\nA.b=\"1\"\r\n");
-    writeValue(script, *placeOf("A.b"), "2", {"b", "c"});
-    writeValue(script, *placeOf("A.c"), "3", {"b", "c"});
+    writeValue(script, *valuePathOf("A.b"), "2", {"b", "c"});
+    writeValue(script, *valuePathOf("A.c"), "3", {"b", "c"});
     EXPECT_EQ(script.write(),
               "# TelmScript Preliminiary Experimental \r\nCreate/Thing A\r\nA.b=\"2\"\r\n"
               "A.c=\"3\"\r\n");
@@ -90,7 +90,7 @@ TEST(WriteValue, KeepsTheEndsOfLinesThatTheScriptHas) {
 
 TEST(WriteValue, EndsALastLineThatWasOpen) {
     Script script = Script::read("# TelmScript Preliminiary Experimental \nCreate/Thing A");
-    writeValue(script, *placeOf("A.b"), "2", {"b"});
+    writeValue(script, *valuePathOf("A.b"), "2", {"b"});
     EXPECT_EQ(script.write(),
               "# TelmScript Preliminiary Experimental \nCreate/Thing A\nA.b=\"2\"\n");
 }
@@ -98,14 +98,14 @@ TEST(WriteValue, EndsALastLineThatWasOpen) {
 TEST(WriteValue, TakesTheLastOfSeveralLinesOfOnePlace) {
     Script script = Script::read(
         "# TelmScript Preliminiary Experimental \nCreate/Thing A\nA.b=\"1\"\nA.b=\"2\"\n");
-    writeValue(script, *placeOf("A.b"), "3", {"b"});
+    writeValue(script, *valuePathOf("A.b"), "3", {"b"});
     EXPECT_EQ(script.write(),
               "# TelmScript Preliminiary Experimental \nCreate/Thing A\nA.b=\"1\"\nA.b=\"3\"\n");
 }
 
 TEST(WriteValue, LeavesOutAnObjectThatTheScriptDoesNotHold) {
     Script script = Script::read(Text);
-    writeValue(script, *placeOf("Stranger.b"), "3", {"b"});
+    writeValue(script, *valuePathOf("Stranger.b"), "3", {"b"});
     EXPECT_EQ(script.write(), Text);
 }
 

@@ -240,7 +240,7 @@ TEST(FirstExample, HasItsObjects) {
                                 }));
 }
 
-TEST(FirstExample, HasTheLinesThatWireTheColourMap) {
+TEST(FirstExample, HasTheLinesThatWireTheColorMap) {
     std::vector<std::string> const lines = linesOf(First);
     for (char const* const line :
          {"Colormaps/Hypsometric Hypsometric_for_FieldSlice_colormap",
@@ -289,12 +289,12 @@ TEST(FirstExample, HasTheValuesThatAreFixed) {
         indexOf(lines, line);
 }
 
-TEST(FirstExample, NamesNoParameterOfTheColourMap) {
+TEST(FirstExample, NamesNoParameterOfTheColorMap) {
     for (ParameterLine const& line : all<ParameterLine>(Script::read(textOfExample(First))))
         EXPECT_NE(line.object, Map);
 }
 
-TEST(FirstExample, HasTheColourMapBetweenTheFieldAndTheSlice) {
+TEST(FirstExample, HasTheColorMapBetweenTheFieldAndTheSlice) {
     std::vector<std::string> const lines = linesOf(First);
     std::size_t const map = indexOf(lines, "Colormaps/Hypsometric " + std::string(Map));
     EXPECT_LT(indexOf(lines, "Strand/Scalarfield theField"), map);
@@ -340,7 +340,7 @@ TEST(SecondExample, HasItsWiringAndValues) {
         indexOf(lines, line);
 }
 
-TEST(SecondExample, HasNineColoursWithTheirLocations) {
+TEST(SecondExample, HasNineColorsWithTheirLocations) {
     std::vector<std::string> expected{"colorend", "colorstart", "interpolation"};
     std::vector<std::string> bounds;
     for (int i = 1; i <= 9; ++i) {

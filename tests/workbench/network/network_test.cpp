@@ -1,4 +1,4 @@
-/// Networks carried out with the built plug-in and the host's own objects.
+/// Networks executed with the built plug-in and the host's own objects.
 #include "workbench/network/Network.hpp"
 
 #include <gmock/gmock.h>
@@ -30,7 +30,7 @@ std::vector<std::string> reports(Network const& network) {
 
 /// The text form of an object's parameter, in a context if one is named.
 std::string valueOf(Network& network, std::string const& place) {
-    auto const where = placeOf(place);
+    auto const where = valuePathOf(place);
     Orlo::SlotPtr const slot = network.object(where->object)->slot(where->name);
     if (!slot)
         return "no such parameter";
@@ -52,8 +52,8 @@ std::string providerOf(Network const& network, std::string const& object,
 class NetworkTest : public tests::PluginTest {
 protected:
     /// Carries out a banner with the given lines behind it.
-    void carryOut(std::string const& lines) {
-        network_.carryOut(
+    void execute(std::string const& lines) {
+        network_.execute(
             Script::read("# TelmScript Preliminiary Experimental \n# VERBOSE\n" + lines));
     }
 
@@ -74,7 +74,7 @@ protected:
 // --- each form of line does its work
 
 TEST_F(NetworkTest, MakesTheExpectedObjectsOfBothForms) {
-    carryOut(
+    execute(
         "# Expecting Implicitly created object: \n# CameraControl Camera\n"
         "# Expecting procedurally object:  Viewer1\n# Expecting procedurally object:  Stranger\n");
     EXPECT_THAT(reports(network_), IsEmpty());
@@ -83,7 +83,7 @@ TEST_F(NetworkTest, MakesTheExpectedObjectsOfBothForms) {
 }
 
 TEST_F(NetworkTest, CreatesObjectsByTheirCatalogueKey) {
-    carryOut("Colormaps/Hypsometric Map\nCreate/GlobalTime Time\n");
+    execute("Colormaps/Hypsometric Map\nCreate/GlobalTime Time\n");
     EXPECT_THAT(reports(network_), IsEmpty());
     EXPECT_EQ(network_.object("Map")->type_key(), "Colormaps/Hypsometric");
     EXPECT_EQ(network_.object("Map")->Name(), "Map");
@@ -91,12 +91,12 @@ TEST_F(NetworkTest, CreatesObjectsByTheirCatalogueKey) {
 }
 
 TEST_F(NetworkTest, KeepsTheDefaultOfAParameterThatNoLineNames) {
-    carryOut("Colormaps/Hypsometric Map\n");
+    execute("Colormaps/Hypsometric Map\n");
     EXPECT_EQ(valueOf(network_, "Map.options"), " -inverse");
 }
 
 TEST_F(NetworkTest, DeletesAnObjectAndItsConnections) {
-    carryOut(
+    execute(
         "Colormaps/Hypsometric Map\nLegend/ColorLegend Legend\nLegend.colormap=>Map\n"
         "# DELETE IF EXISTS Map\n<>Map\n<>Nobody\n");
     EXPECT_THAT(reports(network_), IsEmpty());
@@ -105,7 +105,7 @@ TEST_F(NetworkTest, DeletesAnObjectAndItsConnections) {
 }
 
 TEST_F(NetworkTest, SetsParametersAndKeepsWhatHostObjectsDoNotKnow) {
-    carryOut(
+    execute(
         "Display/OrthoSlice Slice\nSlice.mode=\"Smooth{Discrete}{Interpolated}{Smooth}\"\n"
         "Slice.transparency=\"0.5\"\nSlice.remark=\"{1,2,3}\"\n"
         "# Expecting procedurally object:  Keeper\nKeeper.flags=\" -Orthographic\"\n");
@@ -117,7 +117,7 @@ TEST_F(NetworkTest, SetsParametersAndKeepsWhatHostObjectsDoNotKnow) {
 }
 
 TEST_F(NetworkTest, SetsAValueForAContextApartFromThePlainOne) {
-    carryOut(
+    execute(
         "# Expecting Implicitly created object: \n# CameraControl Camera\n"
         "Camera.zoom{Viewer1}=\"30\"\nCamera.zoom=\"60\"\nCamera.new{Viewer1}=\"1\"\n");
     EXPECT_THAT(reports(network_), IsEmpty());
@@ -128,7 +128,7 @@ TEST_F(NetworkTest, SetsAValueForAContextApartFromThePlainOne) {
 }
 
 TEST_F(NetworkTest, SetsTypedPropertiesOnParameters) {
-    carryOut(
+    execute(
         "Create/GlobalTime T\nT.value.bool(allowTmaxAdjustment)=true\nT.value.double(max)=2.5\n"
         "T.value.int32_t(min)=-3\n");
     EXPECT_THAT(reports(network_), IsEmpty());
@@ -144,7 +144,7 @@ TEST_F(NetworkTest, SetsTypedPropertiesOnParameters) {
 }
 
 TEST_F(NetworkTest, KeepsAttributesAndNotes) {
-    carryOut(
+    execute(
         "Create/GlobalTime T\nT.qTelm::Net::x=\"22\"\nT.qTelm::Net::status=\"icon\"\n"
         "T.qTelm::Net::colour=\"anything\"\n# Note: T.status is not saved.\n");
     EXPECT_THAT(reports(network_), IsEmpty());
@@ -156,7 +156,7 @@ TEST_F(NetworkTest, KeepsAttributesAndNotes) {
 }
 
 TEST_F(NetworkTest, ConnectsInputsToOutputsAndToParameters) {
-    carryOut(
+    execute(
         "Create/GlobalTime T\nCreateBundle/RadialScalarField B\nStrand/Grid G\n"
         "Strand/Scalarfield F\n# Expecting procedurally object:  ChartSelector\n"
         "# Expecting procedurally object:  DefaultScene\nDisplay/OrthoSlice S\n"
@@ -171,7 +171,7 @@ TEST_F(NetworkTest, ConnectsInputsToOutputsAndToParameters) {
     EXPECT_EQ(providerOf(network_, "DefaultScene", "S.renderable"), "S");
 }
 
-// --- lines that cannot be carried out
+// --- lines that cannot be executed
 
 struct FailingLine {
     char const* lines;   ///< from line 3 on; the last one fails
@@ -228,11 +228,11 @@ FailingLine const FailingLines[] = {
 
 TEST_F(NetworkTest, ReportsALineThatCannotBeCarriedOutWithItsReason) {
     for (FailingLine const& each : FailingLines) {
-        network_.carryOut(
+        network_.execute(
             Script::read("# TelmScript Preliminiary Experimental \n"
                          "# VERBOSE\n<>T\n<>M\n<>L\n<>F\n<>A\n<>B\n<>C\n<>Map\n<>U\n"
                          "<>Time\n"));
-        carryOut(each.lines);
+        execute(each.lines);
         ASSERT_EQ(network_.complaints().size(), 1U) << each.lines;
         EXPECT_TRUE(network_.complaints().front().isFailure);
         EXPECT_THAT(reports(network_).front(), HasSubstr(each.report)) << each.lines;
@@ -240,19 +240,19 @@ TEST_F(NetworkTest, ReportsALineThatCannotBeCarriedOutWithItsReason) {
 }
 
 TEST_F(NetworkTest, GoesOnBehindALineThatCannotBeCarriedOut) {
-    carryOut("nonsense\nCreate/GlobalTime T\nT.nothing.double(max)=1\nT.value=\"0.5[0,1]@0.1\"\n");
+    execute("nonsense\nCreate/GlobalTime T\nT.nothing.double(max)=1\nT.value=\"0.5[0,1]@0.1\"\n");
     EXPECT_EQ(network_.complaints().size(), 2U);
     EXPECT_EQ(valueOf(network_, "T.value"), "0.5[0,1]@0.1");
 }
 
 TEST_F(NetworkTest, LeavesAValueAloneWhoseTextDoesNotParse) {
-    carryOut("Create/GlobalTime T\nT.value=\"0.5[0,1]@0.1\"\nT.value=\"0.7[0,1\"\n");
+    execute("Create/GlobalTime T\nT.value=\"0.5[0,1]@0.1\"\nT.value=\"0.7[0,1\"\n");
     EXPECT_EQ(network_.complaints().size(), 1U);
     EXPECT_EQ(valueOf(network_, "T.value"), "0.5[0,1]@0.1");
 }
 
 TEST_F(NetworkTest, CountsTheLinesThatNeedAnObjectThatCouldNotBeMade) {
-    carryOut(
+    execute(
         "Colormaps/UserColors U\nU.color1=\"(1,0,0,1)\"\nU.a.double(max)=1\n"
         "# Note: U.status is not saved.\nU.qTelm::Net::x=\"1\"\nLegend/ColorLegend L\n"
         "L.colormap=>U\nU.datarange=>L\nU()\nL()\n");
@@ -263,12 +263,12 @@ TEST_F(NetworkTest, CountsTheLinesThatNeedAnObjectThatCouldNotBeMade) {
 }
 
 TEST_F(NetworkTest, ForgetsThatAnObjectCouldNotBeMadeOnceItIs) {
-    carryOut("Colormaps/UserColors U\nU()\nCreate/GlobalTime U\nU.value=\"0[0,2]@0.1\"\n");
+    execute("Colormaps/UserColors U\nU()\nCreate/GlobalTime U\nU.value=\"0[0,2]@0.1\"\n");
     EXPECT_EQ(valueOf(network_, "U.value"), "0[0,2]@0.1");
 }
 
 TEST_F(NetworkTest, RemarksALastLineWithoutEndAndCarriesItOut) {
-    carryOut("Create/GlobalTime T");
+    execute("Create/GlobalTime T");
     EXPECT_THAT(reports(network_),
                 ElementsAre("net:3: the last line has no line feed; is the file cut off?"));
     EXPECT_FALSE(anyFailure(network_.complaints()));
@@ -284,7 +284,7 @@ TEST(Report, IsOneLineWhateverTheTextHolds) {
 // --- the examples
 
 TEST_F(NetworkTest, CarriesTheFirstExampleOutWithoutAComplaint) {
-    network_.carryOut(Script::read(example("HypsometricSlice.telm")));
+    network_.execute(Script::read(example("HypsometricSlice.telm")));
     EXPECT_THAT(reports(network_), IsEmpty());
     EXPECT_EQ(providerOf(network_, "FieldSlice", "colormap"),
               "Hypsometric_for_FieldSlice_colormap");
@@ -292,7 +292,7 @@ TEST_F(NetworkTest, CarriesTheFirstExampleOutWithoutAComplaint) {
 }
 
 TEST_F(NetworkTest, MissesOneEntryInTheSecondExampleAndRunsTheRest) {
-    network_.carryOut(Script::read(example("UserColorsRuler.telm")));
+    network_.execute(Script::read(example("UserColorsRuler.telm")));
     ASSERT_EQ(network_.complaints().size(), 2U);
     EXPECT_THAT(reports(network_)[0], HasSubstr("no entry 'Colormaps/UserColors'"));
     EXPECT_THAT(reports(network_)[1], HasSubstr("further lines concern 'UserColors'"));
@@ -304,7 +304,7 @@ TEST_F(NetworkTest, MissesOneEntryInTheSecondExampleAndRunsTheRest) {
 TEST_F(NetworkTest, SavesBothExamplesByteForByte) {
     for (char const* const name : {"HypsometricSlice.telm", "UserColorsRuler.telm"}) {
         Network network;
-        network.carryOut(Script::read(example(name)));
+        network.execute(Script::read(example(name)));
         EXPECT_EQ(network.save(), example(name));
         network.pool("Viewer1");
         render(*network.object("Viewer1"), network.pool("Viewer1"));
@@ -317,7 +317,7 @@ TEST_F(NetworkTest, FindsTheParametersOfTheExamplesInTheirObjectsOrder) {
     for (char const* const name : {"HypsometricSlice.telm", "UserColorsRuler.telm"}) {
         Network network;
         Script const script = Script::read(example(name));
-        network.carryOut(script);
+        network.execute(script);
         std::map<std::string, std::size_t> last;
         for (Line const& line : script.lines) {
             auto const* const parameter = std::get_if<ParameterLine>(&line.meaning);
@@ -338,7 +338,7 @@ TEST_F(NetworkTest, FindsTheParametersOfTheExamplesInTheirObjectsOrder) {
 
 TEST_F(NetworkTest, FindsTheConnectionsOfAnObjectInTheOrderOfItsInputs) {
     Script const script = Script::read(example("HypsometricSlice.telm"));
-    network_.carryOut(script);
+    network_.execute(script);
     std::map<std::string, std::size_t> last;
     for (Line const& line : script.lines)
         if (auto const* const connection = std::get_if<ConnectionLine>(&line.meaning)) {
@@ -402,7 +402,7 @@ TEST_F(NetworkTest, WritesExactlyTheLineThatAChangeConcerns) {
     std::string const before = example("HypsometricSlice.telm");
     for (Change const& each : Changes) {
         Network network;
-        network.carryOut(Script::read(before));
+        network.execute(Script::read(before));
         network.set(each.place, each.text);
         std::vector<std::string> expected;
         if (*each.line != '\0')
@@ -415,20 +415,20 @@ TEST_F(NetworkTest, ReadsAChangeBackFromWhatItSaves) {
     std::string const before = example("HypsometricSlice.telm");
     for (Change const& each : Changes) {
         Network network;
-        network.carryOut(Script::read(before));
+        network.execute(Script::read(before));
         network.set(each.place, each.text);
         Network again;
-        again.carryOut(Script::read(network.save()));
+        again.execute(Script::read(network.save()));
         EXPECT_THAT(reports(again), IsEmpty());
         EXPECT_EQ(again.save(), network.save());
-        if (!isAttribute(placeOf(each.place)->name)) {
+        if (!isAttribute(valuePathOf(each.place)->name)) {
             EXPECT_EQ(valueOf(again, each.place), valueOf(network, each.place)) << each.place;
         }
     }
 }
 
 TEST_F(NetworkTest, AdvancesTheGlobalTimeWithEachChange) {
-    carryOut("Create/GlobalTime T\n");
+    execute("Create/GlobalTime T\n");
     auto const age = [&] {
         return network_.object("T")->slot("value")->ownParameter()->ownValue()->ageable()->age();
     };
@@ -465,9 +465,9 @@ TEST_F(NetworkTest, RefusesABadChangeAndLeavesTheNetworkAsItWas) {
         {"Hypsometric_for_FieldSlice_colormap.options", " sideways", "is no value"},
     };
     std::string const first = example("HypsometricSlice.telm");
-    network_.carryOut(Script::read(first));
+    network_.execute(Script::read(first));
     Network second;
-    second.carryOut(Script::read(example("UserColorsRuler.telm")));
+    second.execute(Script::read(example("UserColorsRuler.telm")));
     for (BadChange const& each : cases) {
         bool const ofSecond = std::string(each.place).starts_with("UserColors");
         Network& network = ofSecond ? second : network_;
@@ -486,12 +486,12 @@ TEST_F(NetworkTest, KeepsWhatItCouldNotCarryOutWhenItSaves) {
     std::string const text =
         "# TelmScript Preliminiary Experimental \nnonsense\nColormaps/UserColors U\n"
         "U.color1=\"(1,0,0,1)\"\nCreate/GlobalTime T\nT.x=>U";
-    network_.carryOut(Script::read(text));
+    network_.execute(Script::read(text));
     EXPECT_EQ(network_.save(), text);
 }
 
 TEST_F(NetworkTest, ShowsAChangeInThePicture) {
-    network_.carryOut(Script::read(example("HypsometricSlice.telm")));
+    network_.execute(Script::read(example("HypsometricSlice.telm")));
     network_.set("Viewer1.size", "120x80");
     auto const picture = [&] {
         Image const image = render(*network_.object("Viewer1"), network_.pool("Viewer1"));

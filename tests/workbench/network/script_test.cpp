@@ -201,8 +201,8 @@ TEST(Script, TellsWhenTheLastLineHasNoEnd) {
 TEST(Script, ReadsALineUpToTheLongestAndNoFurther) {
     std::string const head = "A.b=\"";
     std::string const longest =
-        head + std::string(Script::LongestLine - head.size() - 1, 'x') + "\"";
-    ASSERT_EQ(longest.size(), Script::LongestLine);
+        head + std::string(Script::MaxLineLength - head.size() - 1, 'x') + "\"";
+    ASSERT_EQ(longest.size(), Script::MaxLineLength);
     EXPECT_TRUE(std::holds_alternative<ParameterLine>(meaningOf(longest)));
     for (std::size_t const excess : {std::size_t(1), std::size_t(1) << 20}) {
         Script const script = Script::read(Banner + head + std::string(excess, 'x') +
@@ -272,18 +272,18 @@ TEST(Script, WritesWhatItUnderstandsOfRandomLinesSoThatItReadsTheSame) {
     EXPECT_GT(understood, 100U);
 }
 
-TEST(ValuePlace, IsAnObjectAParameterAndPerhapsAContext) {
-    auto const plain = placeOf("Camera.zoom");
+TEST(ValuePath, IsAnObjectAParameterAndPerhapsAContext) {
+    auto const plain = valuePathOf("Camera.zoom");
     ASSERT_TRUE(plain);
     EXPECT_EQ(plain->object, "Camera");
     EXPECT_EQ(plain->name, "zoom");
     EXPECT_EQ(plain->context, "");
-    auto const within = placeOf("Camera.zoom{Viewer1}");
+    auto const within = valuePathOf("Camera.zoom{Viewer1}");
     ASSERT_TRUE(within);
     EXPECT_EQ(within->context, "Viewer1");
     for (char const* const bad : {"", "Camera", "Camera.", ".zoom", "Camera.zoom{", "Camera.zoom{}",
                                   "Camera.zoom{V}x", "Camera.zoom}", "Cam era.zoom"})
-        EXPECT_FALSE(placeOf(bad)) << bad;
+        EXPECT_FALSE(valuePathOf(bad)) << bad;
 }
 
 }  // namespace

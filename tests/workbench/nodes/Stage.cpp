@@ -21,7 +21,7 @@ bool MapSource::update(VRequest& request, double) {
     blue_.read(request.pool(), blue);
     StrongPtr<VTypedValueBase<ColormapPtr>, VValueBase> const value(
         valueInPool(*colormapOutput, request.pool(), true));
-    ColormapPtr const map = new TellingMap(blue, least, greatest);
+    ColormapPtr const map = new TellingMap(blue, min, max);
     map->touch();
     return value->setValue(map);
 }

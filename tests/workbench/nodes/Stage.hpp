@@ -24,8 +24,8 @@ public:
     bool update(Orlo::VRequest& request, double) override;
 
     int updates = 0;
-    int least = 0;
-    int greatest = 1;
+    int min = 0;
+    int max = 1;
 
 private:
     Orlo::TypedSlot<double> blue_{this, "blue", 0.5, 0};

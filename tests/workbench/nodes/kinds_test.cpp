@@ -94,8 +94,8 @@ TEST(Kinds, UnconnectedObjectsUpdateAllTheSame) {
 
 struct RangeCase {
     char const* mode;
-    char const* least;
-    char const* greatest;
+    char const* min;
+    char const* max;
     char const* scale;
     char const* offset;
     Range expected;
@@ -113,8 +113,8 @@ TEST(Kinds, Range100ProvidesTheRangeOfItsMode) {
     VObject& object = stage.make("Create/Range100", "Range100");
     for (RangeCase const& each : table) {
         stage.set("Range100", "mode", each.mode);
-        stage.set("Range100", "min", each.least);
-        stage.set("Range100", "max", each.greatest);
+        stage.set("Range100", "min", each.min);
+        stage.set("Range100", "max", each.max);
         stage.set("Range100", "scale", each.scale);
         stage.set("Range100", "offset", each.offset);
         EXPECT_EQ(provided<Range>(object, "range", stage.pool), each.expected)

@@ -19,23 +19,23 @@ protected:
     Legends() : map(stage.furnish()) { stage.remove("FieldSlice"); }
 
     /// Whether anything of the colour stands in a rectangle.
-    static bool has(Image const& image, PixelRect const& rect, Rgba8 colour) {
+    static bool has(Image const& image, PixelRect const& rect, Rgba8 color) {
         for (int y = rect.top; y < rect.bottom(); ++y)
             for (int x = rect.left; x < rect.right(); ++x)
-                if (image.contains(x, y) && image.at(x, y) == colour)
+                if (image.contains(x, y) && image.at(x, y) == color)
                     return true;
         return false;
     }
 
     /// Expects the colours of a map in a rectangle, as far as it lies in the
     /// picture, and its frame.
-    static void expectBar(Image const& image, PixelRect const& bar, Colormap const& colours) {
+    static void expectBar(Image const& image, PixelRect const& bar, Colormap const& colors) {
         int looked = 0;
         for (int y = std::max(bar.top, 0); y < std::min(bar.bottom(), image.height()); ++y) {
             double const part = (bar.bottom() - y - 0.5) / bar.height;
-            double const value = colours.getMin() + (colours.getMax() - colours.getMin()) * part;
+            double const value = colors.getMin() + (colors.getMax() - colors.getMin()) * part;
             for (int x : {bar.left, bar.left + bar.width / 2, bar.right() - 1}) {
-                ASSERT_EQ(image.at(x, y), opaque(colours.getColor(value))) << x << "," << y;
+                ASSERT_EQ(image.at(x, y), opaque(colors.getColor(value))) << x << "," << y;
                 ++looked;
             }
         }
@@ -54,7 +54,7 @@ struct BarCase {
     PixelRect bar;
 };
 
-TEST_F(Legends, EveryRowIsTheColourOfTheValueAtItsMiddle) {
+TEST_F(Legends, EveryRowIsTheColorOfTheValueAtItsMiddle) {
     BarCase const table[] = {
         {"1046x650", "0.03x0.03", "0.9", "0.05", {31, 45, 52, 585}},
         {"1046x650", "0.03x0.03", "0.899999980000002", "0.0499999980000002", {31, 45, 52, 585}},
@@ -73,25 +73,25 @@ TEST_F(Legends, EveryRowIsTheColourOfTheValueAtItsMiddle) {
     }
 }
 
-TEST_F(Legends, TheBarHasAFrameOfTheBorderColour) {
+TEST_F(Legends, TheBarHasAFrameOfTheBorderColor) {
     stage.set("Legend", "bordercolor", "(1,0.5,0,0)");
     Image const image = stage.picture();
-    Rgba8 const colour = opaque({1.0, 0.5, 0.0, 0.0});
+    Rgba8 const color = opaque({1.0, 0.5, 0.0, 0.0});
     PixelRect const bar{6, 7, 10, 90};
     for (int x = bar.left - 1; x <= bar.right(); ++x) {
-        EXPECT_EQ(image.at(x, bar.top - 1), colour);
-        EXPECT_EQ(image.at(x, bar.bottom()), colour);
+        EXPECT_EQ(image.at(x, bar.top - 1), color);
+        EXPECT_EQ(image.at(x, bar.bottom()), color);
     }
     for (int y = bar.top; y < bar.bottom(); ++y) {
-        EXPECT_EQ(image.at(bar.left - 1, y), colour);
-        EXPECT_EQ(image.at(bar.right(), y), colour);
+        EXPECT_EQ(image.at(bar.left - 1, y), color);
+        EXPECT_EQ(image.at(bar.right(), y), color);
     }
     EXPECT_EQ(image.at(bar.left - 2, bar.top + 10), Background);
 }
 
 TEST_F(Legends, TheDomainOfTheMapIsShownWhole) {
-    map.least = -3;
-    map.greatest = 5;
+    map.min = -3;
+    map.max = 5;
     expectBar(stage.picture(), {6, 7, 10, 90}, TellingMap(0.5, -3, 5));
 }
 
@@ -107,7 +107,7 @@ TEST_F(Legends, LabelsStandOnTheRightWhereThereIsRoom) {
 
 TEST_F(Legends, LabelsTellTheDomain) {
     Image const before = stage.picture();
-    map.greatest = 7;
+    map.max = 7;
     stage.set("map", "blue", "0.5");
     EXPECT_FALSE(stage.picture() == before);
 }

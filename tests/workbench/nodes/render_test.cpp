@@ -65,7 +65,7 @@ TEST_F(Rendering, OnlyAViewerMakesPictures) {
     }
 }
 
-TEST_F(Rendering, TheSliceIsSeenInTheColoursOfItsMap) {
+TEST_F(Rendering, TheSliceIsSeenInTheColorsOfItsMap) {
     stage.set("theBundle", "gridsize", "33");
     EXPECT_EQ(middle(), opaque(TellingMap(0.5).getColor(1.0)));
     Image const image = stage.picture();

@@ -19,26 +19,26 @@ TEST(SliceNodes, TheObjectHandsItsParametersOn) {
     stage.make("Display/OrthoSlice", "slice");
     ASSERT_TRUE(stage.connect("slice", "scalarfield", "field"));
     ASSERT_TRUE(stage.connect("slice", "colormap", "map"));
-    auto const meet = [&](int normal) {
+    auto const intersect = [&](int normal) {
         auto const shown = provided<RenderablePtr>(stage["slice"], "renderable", stage.pool);
-        return *shown->meet(rayAt(normal, 0.6, -1));
+        return *shown->intersect(rayAt(normal, 0.6, -1));
     };
-    EXPECT_NEAR(meet(1).colour.red() * 255, 170, 0.01);  // Y, interpolated, in the middle
+    EXPECT_NEAR(intersect(1).color.red() * 255, 170, 0.01);  // Y, interpolated, in the middle
     stage.set("slice", "mode", "Discrete");
-    EXPECT_NEAR(meet(1).colour.red() * 255, 210, 0.01);
+    EXPECT_NEAR(intersect(1).color.red() * 255, 210, 0.01);
     stage.set("slice", "orientation", "Z{X}{Y}{Z}");
-    EXPECT_NEAR(meet(2).colour.red() * 255, 201, 0.01);
+    EXPECT_NEAR(intersect(2).color.red() * 255, 201, 0.01);
     stage.set("slice", "position", "1");
-    EXPECT_NEAR(meet(2).colour.red() * 255, 202, 0.01);
+    EXPECT_NEAR(intersect(2).color.red() * 255, 202, 0.01);
     stage.set("slice", "orientation", "X");
-    EXPECT_NEAR(meet(0).colour.red() * 255, 220, 0.01);
+    EXPECT_NEAR(intersect(0).color.red() * 255, 220, 0.01);
     stage.set("slice", "datarange", "0,2");
-    EXPECT_NEAR(meet(0).colour.red() * 255, 110, 0.01);
+    EXPECT_NEAR(intersect(0).color.red() * 255, 110, 0.01);
     stage.set("slice", "datarange", "0,7");
-    EXPECT_NEAR(meet(0).colour.red() * 255, 31, 0.01);
+    EXPECT_NEAR(intersect(0).color.red() * 255, 31, 0.01);
     stage.set("slice", "textureprecision", "16bit");
-    EXPECT_NEAR(meet(0).colour.red() * 255, 31.43, 0.01);
-    EXPECT_EQ(meet(0).opacity, 1.0);
+    EXPECT_NEAR(intersect(0).color.red() * 255, 31.43, 0.01);
+    EXPECT_EQ(intersect(0).opacity, 1.0);
 }
 
 TEST(SliceNodes, TransparencyIsTheirOpacityWithin0And1) {
@@ -52,7 +52,7 @@ TEST(SliceNodes, TransparencyIsTheirOpacityWithin0And1) {
     for (auto const& each : table) {
         stage.set("FieldSlice", "transparency", each.text);
         auto const shown = provided<RenderablePtr>(stage["FieldSlice"], "renderable", stage.pool);
-        EXPECT_EQ(shown->meet(rayAt(1, 0, 0))->opacity, each.opacity) << each.text;
+        EXPECT_EQ(shown->intersect(rayAt(1, 0, 0))->opacity, each.opacity) << each.text;
     }
 }
 

@@ -20,7 +20,7 @@ constexpr float NoNumber = std::numeric_limits<float>::quiet_NaN();
 TEST(Opaque, LimitsRoundsAndLeavesAlphaOut) {
     struct {
         char const* rule;
-        Tessar::rgba_float_t colour;
+        Tessar::rgba_float_t color;
         Rgba8 expected;
     } const cases[] = {
         {"the ends", {0.0F, 1.0F, 0.0F, 1.0F}, {0, 255, 0, 255}},
@@ -35,10 +35,10 @@ TEST(Opaque, LimitsRoundsAndLeavesAlphaOut) {
         {"alpha plays no part", {1.0F, 1.0F, 1.0F, 0.0F}, {255, 255, 255, 255}},
     };
     for (auto const& c : cases)
-        EXPECT_EQ(opaque(c.colour), c.expected) << c.rule;
+        EXPECT_EQ(opaque(c.color), c.expected) << c.rule;
 }
 
-TEST(ImageOfAColour, IsFilledAndCountsFromTheTop) {
+TEST(ImageOfAColor, IsFilledAndCountsFromTheTop) {
     Image image(3, 2);
     EXPECT_EQ(image.width(), 3);
     EXPECT_EQ(image.height(), 2);
@@ -48,7 +48,7 @@ TEST(ImageOfAColour, IsFilledAndCountsFromTheTop) {
     EXPECT_EQ(Image(1, 1, Red).at(0, 0), Red);
 }
 
-TEST(ImageOfAColour, HasOneToSixteenThousandPixelsASide) {
+TEST(ImageOfAColor, HasOneToSixteenThousandPixelsASide) {
     EXPECT_NO_THROW(Image(16384, 1));
     EXPECT_NO_THROW(Image(1, 16384));
     for (int const bad : {0, -1, 16385, INT_MAX, INT_MIN}) {

@@ -16,7 +16,7 @@ TEST(Samples, LieAtTheMiddlesOfTheirColumns) {
     EXPECT_EQ(samples.domain.max, 3.0);
     std::vector<Orlo::rgba_float_t> const expected{
         {-0.5, 0.5, 0, 1}, {0.5, 0.5, 0, 1}, {1.5, 0.5, 0, 1}, {2.5, 0.5, 0, 1}};
-    EXPECT_EQ(samples.colours, expected);
+    EXPECT_EQ(samples.colors, expected);
 }
 
 TEST(Samples, ARampHasAColumnForEach) {

@@ -21,8 +21,8 @@ public:
     std::intptr_t getExtra() const override { return 0; }
 };
 
-inline workbench::Samples samplesOf(std::vector<Orlo::rgba_float_t> const& colours) {
-    return {{0.0, 1.0}, colours};
+inline workbench::Samples samplesOf(std::vector<Orlo::rgba_float_t> const& colors) {
+    return {{0.0, 1.0}, colors};
 }
 
 }  // namespace tests

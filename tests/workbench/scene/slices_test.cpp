@@ -25,8 +25,8 @@ public:
 
 /// The first component that a slice shows at a place; -1 where it shows none.
 double shownAt(Slice const& slice, int normal, double first, double second) {
-    auto const met = slice.meet(rayAt(normal, first, second));
-    return met ? double{met->colour.red()} : -1.0;
+    auto const met = slice.intersect(rayAt(normal, first, second));
+    return met ? double{met->color.red()} : -1.0;
 }
 
 /// Three samples in each direction, whose value tells their place: 211 is x 2,
@@ -89,7 +89,7 @@ TEST(Slices, ShowTheFieldInTheirPlane) {
     }
 }
 
-TEST(Slices, InterpolatedLooksUpBetweenSamplesAndSmoothMixesTheColours) {
+TEST(Slices, InterpolatedLooksUpBetweenSamplesAndSmoothLerpsTheColors) {
     FunctionField const step({2, 1.0}, [](int i, int, int) { return i == 0 ? 0.0 : 1.0; });
     for (double const x : {-1.0, -0.5, -0.01, 0.01, 0.5, 1.0}) {
         SliceOptions options;
@@ -109,7 +109,7 @@ struct TexelCase {
     double expected;
 };
 
-TEST(Slices, SamplesAreMappedLimitedAndRounded) {
+TEST(Slices, SamplesAreMappedClampedAndRounded) {
     TexelCase const table[] = {
         {0.3001, {0, 1}, 255, 77.0 / 255},
         {0.3001, {0, 1}, 65535, 19667.0 / 65535},
@@ -149,7 +149,7 @@ TEST(Slices, TheDomainOfTheMapSpansTheTexture) {
     EXPECT_NEAR(shownAt(slice, 1, 0, 0), 0.2, 1e-6);
 }
 
-TEST(Slices, ARayMeetsThemInTheirSquareAlone) {
+TEST(Slices, ARayIntersectsThemInTheirSquareAlone) {
     Slice const slice(Telling, new TellingMap(0), SliceOptions());
     for (double const inside : {-1.0, -0.999, 0.0, 1.0}) {
         EXPECT_GE(shownAt(slice, 1, inside, 0), 0) << inside;
@@ -159,20 +159,20 @@ TEST(Slices, ARayMeetsThemInTheirSquareAlone) {
         EXPECT_EQ(shownAt(slice, 1, outside, 0), -1) << outside;
         EXPECT_EQ(shownAt(slice, 1, 0, outside), -1) << outside;
     }
-    EXPECT_FALSE(slice.meet({{0, 9, 0}, {1, 0, 0}}));
-    EXPECT_FALSE(slice.meet({{0, 0, 0}, {1, 0, 0}}));
+    EXPECT_FALSE(slice.intersect({{0, 9, 0}, {1, 0, 0}}));
+    EXPECT_FALSE(slice.intersect({{0, 0, 0}, {1, 0, 0}}));
 }
 
-TEST(Slices, TheyTellHowDeepTheRayMetThem) {
+TEST(Slices, TheyTellHowDeepTheRayIntersectsThem) {
     SliceOptions options;
     options.position = 0.5;
     options.opacity = 0.25;
     Slice const slice(Telling, new TellingMap(0), options);
-    auto const met = slice.meet({{0, 2.5, 0}, {0, -1, 0}});
+    auto const met = slice.intersect({{0, 2.5, 0}, {0, -1, 0}});
     ASSERT_TRUE(met);
     EXPECT_EQ(met->depth, 2.0);
     EXPECT_EQ(met->opacity, 0.25);
-    EXPECT_EQ(slice.meet({{0, -2.5, 0}, {0, -1, 0}})->depth, -3.0);
+    EXPECT_EQ(slice.intersect({{0, -2.5, 0}, {0, -1, 0}})->depth, -3.0);
 }
 
 }  // namespace

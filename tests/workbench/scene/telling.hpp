@@ -14,14 +14,14 @@ namespace tests {
 /// green its opposite, blue a constant. Alpha is 0, as in tables.
 class TellingMap : public Orlo::Colormap {
 public:
-    explicit TellingMap(double blue, int least = 0, int greatest = 1)
-        : blue_(blue), least_(least), greatest_(greatest) {}
+    explicit TellingMap(double blue, int min = 0, int max = 1)
+        : blue_(blue), min_(min), max_(max) {}
 
-    int getMin() const override { return least_; }
-    int getMax() const override { return greatest_; }
+    int getMin() const override { return min_; }
+    int getMax() const override { return max_; }
     int getSize() const override { return 256; }
     Tessar::rgba_float_t getColor(double value) const override {
-        double const part = (value - least_) / (greatest_ - least_);
+        double const part = (value - min_) / (max_ - min_);
         return {part, 1.0 - part, blue_, 0.0};
     }
     std::string getLabel() const override { return {}; }
@@ -29,8 +29,8 @@ public:
 
 private:
     double blue_;
-    int least_;
-    int greatest_;
+    int min_;
+    int max_;
 };
 
 /// A field whose samples a function gives.

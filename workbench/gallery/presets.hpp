@@ -7,13 +7,13 @@
 namespace workbench {
 
 /// Parameters set together, and what that shows.
-struct TellingSetting {
+struct Preset {
     std::string caption;
     std::vector<std::string> assignments;  ///< texts NAME=TEXT, in the order of setting
 };
 
-/// The settings for the entry of that full key; none for an entry that has no
+/// The presets for the entry of that full key; none for an entry that has no
 /// parameters and for one that is not known here.
-std::vector<TellingSetting> tellingSettings(std::string const& key);
+std::vector<Preset> presetsFor(std::string const& key);
 
 }  // namespace workbench

@@ -1,4 +1,4 @@
-#include "workbench/gallery/tellingSettings.hpp"
+#include "workbench/gallery/presets.hpp"
 
 #include <map>
 
@@ -6,25 +6,25 @@ namespace workbench {
 
 namespace {
 
-using Settings = std::vector<TellingSetting>;
+using Presets = std::vector<Preset>;
 
-Settings const UpsideDown{{"From the highest to the lowest", {"options=inverse"}}};
+Presets const UpsideDown{{"From the highest to the lowest", {"options=inverse"}}};
 
-Settings const Blends{
+Presets const Blends{
     {"Without the gain in the middle", {"multiplier=0"}},
     {"To the complement of the start", {"multiplier=0", "blend=1"}},
     {"Half way there, with a strong gain", {"multiplier=1", "blend=0.5"}},
 };
 
-Settings const LogarithmicBlends{
+Presets const LogarithmicBlends{
     {"An exponential grey ramp",
      {"multiplier=0", "startcolor=(0,0,0,1)", "endcolor=(0.00674,0.00674,0.00674,1)"}},
     {"One channel grows, one falls",
      {"multiplier=0", "startcolor=(0,1,0.3,1)", "endcolor=(0.00674,0.99326,0.3,1)"}},
 };
 
-std::map<std::string, Settings> const& allSettings() {
-    static std::map<std::string, Settings> const all{
+std::map<std::string, Presets> const& allPresets() {
+    static std::map<std::string, Presets> const all{
         {"Colormaps/BathymetricColors", UpsideDown},
         {"Colormaps/Hypsometric", UpsideDown},
         {"Colormaps/TopoBathy", UpsideDown},
@@ -73,9 +73,9 @@ std::map<std::string, Settings> const& allSettings() {
 
 }  // namespace
 
-std::vector<TellingSetting> tellingSettings(std::string const& key) {
-    auto const found = allSettings().find(key);
-    return found == allSettings().end() ? Settings() : found->second;
+std::vector<Preset> presetsFor(std::string const& key) {
+    auto const found = allPresets().find(key);
+    return found == allPresets().end() ? Presets() : found->second;
 }
 
 }  // namespace workbench

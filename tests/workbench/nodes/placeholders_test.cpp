@@ -12,7 +12,7 @@ using namespace workbench;
 namespace tests {
 namespace {
 
-class Keepers : public testing::Test {
+class Placeholders : public testing::Test {
 protected:
     Stage stage;
 };
@@ -23,7 +23,7 @@ struct Kept {
     char const* wrong;    ///< one of another form
 };
 
-TEST_F(Keepers, AParameterKeepsTextsOfItsFirstForm) {
+TEST_F(Placeholders, AParameterKeepsTextsOfItsFirstForm) {
     Kept const table[] = {
         {"25", "0.5", "many"},
         {"true", "false", "1"},
@@ -51,14 +51,14 @@ TEST_F(Keepers, AParameterKeepsTextsOfItsFirstForm) {
     }
 }
 
-TEST_F(Keepers, ATextOfNoFormKeepsAnyText) {
+TEST_F(Placeholders, ATextOfNoFormKeepsAnyText) {
     VObject& object = stage.host("Viewer1FrameBuffer");
     addKept(object, "buffer", "A Frame buffer.");
     setParameter(object, "buffer", "45");
     EXPECT_EQ(object.slot("buffer")->parameter()->ownValue()->text(), "45");
 }
 
-TEST_F(Keepers, ParametersStandInTheOrderInWhichTheyCame) {
+TEST_F(Placeholders, ParametersStandInTheOrderInWhichTheyCame) {
     VObject& object = stage.host("Scribe");
     for (char const* name : {"z", "a", "m"})
         addKept(object, name, "1");
@@ -66,7 +66,7 @@ TEST_F(Keepers, ParametersStandInTheOrderInWhichTheyCame) {
               (std::vector<std::string>{"::object->An Object.", "z=1", "a=1", "m=1"}));
 }
 
-TEST_F(Keepers, AKeptParameterHasAValueForEachContext) {
+TEST_F(Placeholders, AKeptParameterHasAValueForEachContext) {
     VObject& object = stage.host("Scribe");
     addKept(object, "history", "100");
     setParameter(object, "history", "7", stage.pool);
@@ -75,19 +75,19 @@ TEST_F(Keepers, AKeptParameterHasAValueForEachContext) {
     EXPECT_EQ(valueInPool(parameter, new ValuePool("Viewer2"), false)->text(), "100");
 }
 
-TEST_F(Keepers, AParameterThatIsThereStaysAsItIs) {
+TEST_F(Placeholders, AParameterThatIsThereStaysAsItIs) {
     VObject& camera = stage.host("Camera");
     SlotPtr const zoom = camera.slot("zoom");
     EXPECT_TRUE(addKept(camera, "zoom", "true") == zoom);
     EXPECT_EQ(zoom->parameter()->ownValue()->text(), "45");
 }
 
-TEST_F(Keepers, AnOutputIsNoParameter) {
+TEST_F(Placeholders, AnOutputIsNoParameter) {
     EXPECT_FALSE(addKept(stage.make("Create/Range100", "r"), "range", "0,1"));
     EXPECT_FALSE(addInput(stage["r"], "range"));
 }
 
-TEST_F(Keepers, AllObjectsOfTheHostKeepWhatTheyDoNotKnow) {
+TEST_F(Placeholders, AllObjectsOfTheHostKeepWhatTheyDoNotKnow) {
     for (char const* name : {"Camera", "Viewer1", "DefaultScene", "ChartSelector", "Network"}) {
         EXPECT_TRUE(keepsAll(stage.host(name))) << name;
         EXPECT_TRUE(addKept(stage[name], "anything", "A thing.")) << name;
@@ -100,7 +100,7 @@ TEST_F(Keepers, AllObjectsOfTheHostKeepWhatTheyDoNotKnow) {
     }
 }
 
-TEST_F(Keepers, AnObjectOfAPlugInKeepsNothing) {
+TEST_F(Placeholders, AnObjectOfAPlugInKeepsNothing) {
     VObject& map = stage.add("map", new MapSource);
     EXPECT_FALSE(keepsAll(map));
     EXPECT_FALSE(addKept(map, "anything", "1"));
@@ -109,7 +109,7 @@ TEST_F(Keepers, AnObjectOfAPlugInKeepsNothing) {
     EXPECT_EQ(map.slots().size(), 2U);
 }
 
-TEST_F(Keepers, AKeeperTakesConnectionsOfAnyKind) {
+TEST_F(Placeholders, APlaceholderTakesConnectionsOfAnyKind) {
     stage.host("WebTelm", "Create/Webserver");
     stage.host("Viewer1FrameBuffer");
     stage.host("Viewer1");
@@ -120,7 +120,7 @@ TEST_F(Keepers, AKeeperTakesConnectionsOfAnyKind) {
     EXPECT_TRUE(stage["WebTelm"].slot("framebuffer")->provider());
 }
 
-TEST_F(Keepers, ACatalogueKindTakesNoInputThatItWasNotMadeWith) {
+TEST_F(Placeholders, ACatalogueKindTakesNoInputThatItWasNotMadeWith) {
     stage.make("Display/OrthoSlice", "slice");
     EXPECT_FALSE(addInput(stage["slice"], "vectorfield"));
     EXPECT_TRUE(addInput(stage["slice"], "scalarfield") == stage["slice"].slot("scalarfield"));
