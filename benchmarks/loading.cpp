@@ -1,8 +1,7 @@
 /// Loading a library, asking its one question, unloading it.
-#include <dlfcn.h>
-
 #include "benchmarks/groups.hpp"
 #include "host/creators/VInitialization.hpp"
+#include "workbench/platform/Library.hpp"
 
 namespace benchmarks {
 
@@ -13,15 +12,9 @@ std::string add(std::string const& name, std::filesystem::path const& file,
     benchmark::RegisterBenchmark(name.c_str(), [file, symbol](benchmark::State& state) {
         Orlo::VInitialization host;
         for ([[maybe_unused]] auto _ : state) {
-            void* const library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
-            if (library == nullptr) {
-                state.SkipWithError(dlerror());
-                break;
-            }
-            using Question = int (*)(Orlo::VInitialization*);
-            auto const question = reinterpret_cast<Question>(dlsym(library, symbol.c_str()));
+            workbench::Library const library(file);
+            auto const question = library.find<int (*)(Orlo::VInitialization*)>(symbol.c_str());
             benchmark::DoNotOptimize(question(&host));
-            dlclose(library);
         }
         state.SetItemsProcessed(state.iterations());
     });
