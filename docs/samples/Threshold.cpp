@@ -1,4 +1,5 @@
 /// Black below a level, one colour from there on.
+/// Its map is rewritten in place.
 #include "host/creators/VSource.hpp"
 #include "prism/tinctures/OutputMap.hpp"
 

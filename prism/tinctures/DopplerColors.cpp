@@ -74,7 +74,7 @@ double MyColormap::Ramp::redTent(double t) const {
         return 0.0;
     double const s = t + t;
     bool const rises = deviation > 1.0 || deviation >= s;
-    return limited(rises ? s / deviation : (s - 1.0) / (deviation - 1.0));
+    return clamped(rises ? s / deviation : (s - 1.0) / (deviation - 1.0));
 }
 
 /// Peaks at 1 - deviation/2, in the upper half; not the mirror image of the
@@ -83,7 +83,7 @@ double MyColormap::Ramp::blueTent(double t) const {
     double const u = (t - 0.5) + (t - 0.5);
     double const o = 1.0 - deviation;
     bool const rises = deviation < 0.0 || o >= u;
-    return limited(rises ? u / o : (1.0 - u) / deviation);
+    return clamped(rises ? u / o : (1.0 - u) / deviation);
 }
 
 VSource<MyColormap, ColormapPtr> creator(

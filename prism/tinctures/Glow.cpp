@@ -1,4 +1,4 @@
-/// From black to white through a chosen colour at a chosen place.
+/// From black to white through a chosen colour at a chosen position.
 /// Its map is rewritten in place.
 #include <cmath>
 
@@ -70,7 +70,7 @@ rgba_float_t MyColormap::Ramp::getColor(double value) const {
     return {channel(glow[0], v), channel(glow[1], v), channel(glow[2], v), glow[3]};
 }
 
-/// The parabola through (0, 0), (center, component) and (1, 1), unlimited. There
+/// The parabola through (0, 0), (center, component) and (1, 1), not clamped. There
 /// is none through a centre at 0, which gives grey, as NaN does, or at 1, which
 /// gives black.
 float MyColormap::Ramp::channel(float component, double v) const {

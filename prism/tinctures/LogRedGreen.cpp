@@ -32,7 +32,7 @@ public:
         : Tincture(name, kind, preferences, "colormap") {}
 
     /// Only a new map is published. There is no icon, and the map, also another
-    /// object's, gets the age of the inputs in the place of a touch.
+    /// object's, gets the age of the inputs instead of a touch.
     bool update(VRequest& request, double) override {
         OutputMap output(*this, request);
         if (output.isEmpty())
@@ -70,7 +70,7 @@ private:
 /// at the value 0 stands the end colour, and from there the results grow to
 /// millions.
 rgba_float_t MyColormap::Ramp::getColor(double value) const {
-    double const t = std::exp(5.0 * limited(value));
+    double const t = std::exp(5.0 * clamped(value));
     double const gain = 1.0 + 4.0 * multiplier * t * (1.0 - t);
     double const bendGain = 1.0 + 4.0 * multiplier * blend * (1.0 - blend);
     return bend(startcolor, endcolor,

@@ -33,7 +33,7 @@ public:
     /// Whether no live map stands there.
     bool isEmpty() const { return !map_.alive(); }
 
-    /// Puts a new map in the place of the one held here; nobody sees it yet.
+    /// Puts a new map into the place of the one held here; nobody sees it yet.
     void hold(Orlo::Colormap* fresh) { map_ = fresh; }
 
     /// The same, and lets everybody see it at once.
@@ -74,7 +74,7 @@ public:
     }
 
     // The steps of `refresh`, for the objects that leave one out or take another
-    // order, and what some do in the place of a touch. They need a map of any
+    // order, and what some do instead of a touch. They need a map of any
     // class.
     void dropCache() const { map_->cachedChunk = nullptr; }
     void drawIcon() const { object_.createIcon(map_); }

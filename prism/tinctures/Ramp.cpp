@@ -78,7 +78,7 @@ float wrapped(float hue) {
 }
 
 /// The colour of a hue in degrees, a saturation S and a brightness V, none of
-/// which is limited.
+/// which is clamped.
 rgba_float_t hueColor(float hue, float S, float V) {
     if (S == 0.0F || std::isnan(double{S}))
         return {V, V, V, 1};

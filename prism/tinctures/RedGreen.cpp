@@ -59,7 +59,7 @@ private:
 
 /// Both gains are parabolas over 0 to 1; the components go beyond 1 on purpose.
 rgba_float_t MyColormap::Ramp::getColor(double value) const {
-    double const c = limited(value);
+    double const c = clamped(value);
     double const gain = 1.0 + 4.0 * multiplier * c * (1.0 - c);
     double const bendGain = 1.0 + 4.0 * multiplier * blend * (1.0 - blend);
     return bend(startcolor, endcolor,

@@ -36,7 +36,7 @@ public:
         : Tincture(name, kind, preferences, "colormap") {}
 
     /// Only a new map is published. There is no icon, and the map, also another
-    /// object's, gets the age of the inputs in the place of a touch.
+    /// object's, gets the age of the inputs instead of a touch.
     bool update(VRequest& request, double) override {
         OutputMap output(*this, request);
         if (output.isEmpty())

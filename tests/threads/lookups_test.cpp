@@ -1,5 +1,6 @@
 /// Lookups on two threads while a third one changes parameters and updates.
 #include "tests/support/PluginTest.hpp"
+#include "tests/support/requiredEntries.hpp"
 #include "tests/threads/Alternation.hpp"
 #include "tests/threads/Readers.hpp"
 
@@ -74,7 +75,7 @@ unsigned updateWhileRead(VObject& object, PoolPtr const& pool, bool rewritten) {
 }
 
 TEST_F(Lookups, OfEveryMapRunBesideItsUpdates) {
-    ASSERT_EQ(keys().size(), 21U);
+    ASSERT_GE(keys().size(), requiredEntries.size());
     for (std::string const& key : keys()) {
         SCOPED_TRACE(key);
         std::array<Colours, 2> const expected = coloursOfBothStates(key);

@@ -7,11 +7,11 @@
 
 namespace prism {
 
-/// Limits to 0..1. The upper limit comes first and takes NaN as well, so that
+/// Clamps to 0..1. The maximum comes first and takes NaN as well, so that
 /// NaN becomes 1.
-constexpr double limited(double x) noexcept {
-    double const atMost = x < 1.0 ? x : 1.0;
-    return atMost > 0.0 ? atMost : 0.0;
+constexpr double clamped(double x) noexcept {
+    double const belowMax = x < 1.0 ? x : 1.0;
+    return belowMax > 0.0 ? belowMax : 0.0;
 }
 
 /// A component with a weight: the product of doubles, rounded to float.
@@ -20,7 +20,7 @@ constexpr float weighted(float component, double weight) noexcept {
 }
 
 /// The sum of two weighted colours, alpha included. Both products are floats
-/// before they are added; nothing is limited.
+/// before they are added; nothing is clamped.
 constexpr Tessar::rgba_float_t blend(Tessar::rgba_float_t const& first, double firstWeight,
                                      Tessar::rgba_float_t const& second,
                                      double secondWeight) noexcept {
@@ -38,7 +38,7 @@ struct BendWeights {
     double complement;
 };
 
-/// The colour at one place of such a gradient. The terms are floats before they
+/// The colour at one position of such a gradient. The terms are floats before they
 /// are added; the complement counts as opaque.
 constexpr Tessar::rgba_float_t bend(Tessar::rgba_float_t const& start,
                                     Tessar::rgba_float_t const& end,

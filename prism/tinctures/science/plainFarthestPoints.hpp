@@ -21,7 +21,7 @@ inline std::vector<RgbTriple> plainGrid(RgbGrid const& grid) {
 /// One pass over all candidates with a colour just taken: `best` ends at the
 /// candidate that is the farthest from all taken ones.
 inline void plainPass(std::vector<LabPoint>& candidates, LabPoint const taken, std::size_t& best) {
-    double greatest = 0.0;
+    double max = 0.0;
     for (std::size_t i = 0; i < candidates.size(); ++i) {
         LabPoint& candidate = candidates[i];
         double const a = taken.a - candidate.a;
@@ -30,8 +30,8 @@ inline void plainPass(std::vector<LabPoint>& candidates, LabPoint const taken, s
         double const d = (a * a + L * L) + b * b;
         if (candidate.nearest > d)
             candidate.nearest = d;
-        if (candidate.nearest > greatest) {
-            greatest = candidate.nearest;
+        if (candidate.nearest > max) {
+            max = candidate.nearest;
             best = i;
         }
     }

@@ -35,7 +35,7 @@ constexpr std::int32_t truncated(double x) noexcept {
                                                  : std::numeric_limits<std::int32_t>::min();
 }
 
-/// The row of the truncated number, limited to the table.
+/// The row of the truncated number, clamped to the table.
 template <std::size_t N>
 constexpr Tessar::rgba_float_t const& rowAt(ColorTable<N> const& table, double x) noexcept {
     constexpr auto last = static_cast<std::int32_t>(N - 1);

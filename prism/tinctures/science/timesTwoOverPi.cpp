@@ -14,10 +14,10 @@ __extension__ using Product = unsigned __int128;
 /// 2/pi, rounded to 64 bits, times 2^64.
 constexpr std::uint64_t TwoOverPi = 0xA2F9'836E'4E44'152A;
 
-// A double is an integer of 53 bits times a power of two; the least power is that
+// A double is an integer of 53 bits times a power of two; the minimal power is that
 // of the subnormal numbers, which have fewer bits.
 constexpr int FractionBits = 52;
-constexpr int LeastPower = -1074;
+constexpr int MinPower = -1074;
 constexpr std::uint64_t LeadingBit = std::uint64_t{1} << FractionBits;
 constexpr std::uint64_t HighestBit = std::uint64_t{1} << 63;
 
@@ -38,7 +38,7 @@ double timesTwoOverPi(double x) noexcept {
     auto const magnitude = std::bit_cast<std::uint64_t>(std::fabs(x));
     bool const isNormal = magnitude >= LeadingBit;
     std::uint64_t const mantissa = (magnitude & (LeadingBit - 1)) | (isNormal ? LeadingBit : 0);
-    int power = std::max(static_cast<int>(magnitude >> FractionBits), 1) - 1 + LeastPower;
+    int power = std::max(static_cast<int>(magnitude >> FractionBits), 1) - 1 + MinPower;
 
     // All 128 bits, with the highest one set.
     int const zeros = std::countl_zero(mantissa);
@@ -54,14 +54,14 @@ double timesTwoOverPi(double x) noexcept {
     std::uint64_t const up = carry(kept, static_cast<std::uint64_t>(product), HighestBit);
 
     // Of these, the 53 of a double are kept, or fewer.
-    int const surplus = std::max(63 - FractionBits, LeastPower - power);
+    int const surplus = std::max(63 - FractionBits, MinPower - power);
     std::uint64_t const half = std::uint64_t{1} << (surplus - 1);
     std::uint64_t integer = kept >> (surplus - 1) >> 1;
     std::uint64_t const rest = (kept & (2 * half - 1)) + up;
     integer += carry(integer, rest, half);
 
     // The leading bit, where there is one, counts the power up by one.
-    auto const scale = static_cast<std::uint64_t>(power + surplus - LeastPower);
+    auto const scale = static_cast<std::uint64_t>(power + surplus - MinPower);
     return std::copysign(std::bit_cast<double>((scale << FractionBits) + integer), x);
 }
 

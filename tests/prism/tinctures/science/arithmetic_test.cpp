@@ -19,7 +19,7 @@ struct LimitRow {
 class Limit : public testing::TestWithParam<LimitRow> {};
 
 TEST_P(Limit, BringsToZeroToOne) {
-    EXPECT_EQ(std::bit_cast<std::uint64_t>(prism::limited(GetParam().value)),
+    EXPECT_EQ(std::bit_cast<std::uint64_t>(prism::clamped(GetParam().value)),
               std::bit_cast<std::uint64_t>(GetParam().limited));
 }
 
