@@ -9,6 +9,7 @@
 
 #include "host/creators/VCreatorProperties.hpp"
 #include "host/object/VObject.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Orlo {
 
@@ -56,11 +57,15 @@ public:
     std::string const& name() const { return get(VCreatorPropertyElements::Name); }
     int orderNumber() const noexcept { return order_; }
     bool isHidden() const noexcept { return hidden_; }
-    PreferencesPtr const& preferences() const noexcept { return wishes_; }
+    PreferencesPtr const& preferences() const noexcept { return preferences_; }
+    /// The interface that the creator was built against: the text that was passed,
+    /// which belongs to the creator's library.
+    char const* token() const noexcept { return token_; }
 
-    /// Notes an object of this creator.
+    /// Notes an object of this creator, which takes itself out when it goes.
     void addInstance(WeakObjectPtr const& object) const;
-    /// The objects of this creator that are alive.
+    void removeInstance(VObject const& object) const;
+    /// The objects of this creator that are alive, the oldest first.
     std::vector<WeakObjectPtr> instances() const;
     /// Deletes all living objects of this creator, whoever holds them: their
     /// holders find their pointers empty.
@@ -70,7 +75,8 @@ private:
     struct State;
     int order_;
     bool hidden_;
-    PreferencesPtr wishes_;
+    PreferencesPtr preferences_;
+    char const* token_;
     std::unique_ptr<State> state_;
 };
 

@@ -1,6 +1,8 @@
 #include "host/creators/VCreatorBase.hpp"
 
 #include <algorithm>
+#include <cstdint>
+#include <map>
 #include <mutex>
 
 #include "host/values/Vprintf.hpp"
@@ -47,15 +49,16 @@ VInputCreatorBase::~VInputCreatorBase() = default;
 
 struct VCreatorBase::State {
     std::mutex mutex;
-    std::vector<WeakObjectPtr> instances;
+    std::map<std::uint64_t, WeakObjectPtr> instances;  ///< by their numbers
 };
 
 VCreatorBase::VCreatorBase(VCreatorProperties const& properties, int order,
-                           PreferencesPtr const& preferences, bool hidden, char const*)
+                           PreferencesPtr const& preferences, bool hidden, char const* token)
     : VCreatorProperties(properties),
       order_(order),
       hidden_(hidden),
-      wishes_(preferences),
+      preferences_(preferences),
+      token_(token),
       state_(std::make_unique<State>()) {
     setName(name());
     enter(WeakCreatorPtr(this));
@@ -80,14 +83,18 @@ std::string VCreatorBase::createChildname(WeakObjectPtr const& parent,
 
 void VCreatorBase::addInstance(WeakObjectPtr const& object) const {
     std::scoped_lock const lock(state_->mutex);
-    std::erase_if(state_->instances, [](auto const& each) { return !each; });
-    state_->instances.push_back(object);
+    state_->instances.insert_or_assign(object->number(), object);
+}
+
+void VCreatorBase::removeInstance(VObject const& object) const {
+    std::scoped_lock const lock(state_->mutex);
+    state_->instances.erase(object.number());
 }
 
 std::vector<WeakObjectPtr> VCreatorBase::instances() const {
     std::scoped_lock const lock(state_->mutex);
     std::vector<WeakObjectPtr> alive;
-    for (WeakObjectPtr const& object : state_->instances)
+    for (auto const& [number, object] : state_->instances)
         if (object)
             alive.push_back(object);
     return alive;

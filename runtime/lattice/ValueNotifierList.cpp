@@ -13,6 +13,10 @@ void ValueNotifierList::touch() {
 
 void ValueNotifierList::addNotifier(WeakPtr<ValueNotifier, ValueNotifier> const& notifier) {
     std::scoped_lock const lock(mutex_);
+    if (notifiers_.size() >= notifiersAtNextSweep_) {
+        std::erase_if(notifiers_, [](auto const& each) { return !each.alive(); });
+        notifiersAtNextSweep_ = 2 * notifiers_.size() + 8;
+    }
     notifiers_.push_back(notifier);
 }
 
@@ -31,8 +35,8 @@ std::vector<PoolPtr> ValueNotifierList::shadows() const {
     std::scoped_lock const lock(mutex_);
     std::vector<PoolPtr> alive;
     for (auto const& pool : pools_)
-        if (pool)
-            alive.emplace_back(pool);
+        if (PoolPtr const held(pool); held)  // held first: it may go on another thread
+            alive.push_back(held);
     return alive;
 }
 
@@ -40,8 +44,8 @@ std::vector<StrongPtr<ValueNotifier, ValueNotifier>> ValueNotifierList::listener
     std::scoped_lock const lock(mutex_);
     std::vector<StrongPtr<ValueNotifier, ValueNotifier>> alive;
     for (auto const& notifier : notifiers_)
-        if (notifier)
-            alive.emplace_back(notifier);
+        if (StrongPtr<ValueNotifier, ValueNotifier> const held(notifier); held)
+            alive.push_back(held);
     return alive;
 }
 

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <set>
 #include <string>
 
@@ -36,6 +37,48 @@ TEST(RuntimeSources, AreNamedAfterAHeaderOfTheContractOrOneBesideThem) {
                                    "what the header beside it declares";
     }
     EXPECT_GT(sources, 30);
+}
+
+/// What waits on an atomic inside the C++ library, which loses wake-ups on Windows:
+/// barriers, latches, semaphores, and the atomics' own `wait`. What waits on a
+/// condition variable has another `notify_one`.
+bool waitsOnAnAtomic(std::string const& code) {
+    auto const has = [&](char const* text) { return code.find(text) != std::string::npos; };
+    for (char const* const type :
+         {"std::barrier", "std::latch", "std::counting_semaphore", "std::binary_semaphore",
+          "<barrier>", "<latch>", "<semaphore>", "atomic_wait", "atomic_notify"})
+        if (has(type))
+            return true;
+    return !has("condition_variable") &&
+           (has(".wait(") || has(".notify_one(") || has(".notify_all("));
+}
+
+/// A source without its comments.
+std::string codeOf(fs::path const& source) {
+    std::ifstream file(source);
+    std::string code;
+    for (std::string line; std::getline(file, line);)
+        code += line.substr(0, line.find("//")) + "\n";
+    return code;
+}
+
+TEST(Sources, WaitOnNothingThatLosesWakeUpsOnWindows) {
+    EXPECT_TRUE(waitsOnAnAtomic("std::barrier together(2);"));
+    EXPECT_TRUE(waitsOnAnAtomic("#include <semaphore>"));
+    EXPECT_TRUE(waitsOnAnAtomic("flag.wait(false);"));
+    EXPECT_FALSE(waitsOnAnAtomic("std::condition_variable change; change.wait(lock);"));
+    int sources = 0;
+    for (char const* const folder :
+         {"benchmarks", "entry", "fuzz", "host", "prism", "runtime", "tests", "workbench"})
+        for (auto const& entry : fs::recursive_directory_iterator(Root / folder)) {
+            std::string const ending = entry.path().extension().string();
+            if ((ending != ".cpp" && ending != ".hpp") ||
+                entry.path().filename() == "sources_test.cpp")
+                continue;
+            ++sources;
+            EXPECT_FALSE(waitsOnAnAtomic(codeOf(entry.path()))) << entry.path();
+        }
+    EXPECT_GT(sources, 200);
 }
 
 }  // namespace
