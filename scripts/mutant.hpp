@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdlib>
+#include <type_traits>
 
 namespace mutant {
 
@@ -13,40 +14,48 @@ inline int numberInForce() {
 
 inline int const active = numberInForce();
 
-inline bool is(int number) noexcept {
-    return number == active;
+/// While the compiler evaluates, nothing is changed.
+constexpr bool is(int number) noexcept {
+    return !std::is_constant_evaluated() && number == active;
 }
 
-inline int sign(int number) noexcept {
+constexpr int sign(int number) noexcept {
     return is(number) ? 1 : -1;
 }
 
 template <class T>
-T pick(int number, T original, T changed) noexcept {
+constexpr T quietPick(int number, T original, T changed) noexcept {
     return is(number) ? changed : original;
+}
+
+/// The same, refused where the compiler needs a constant: the change would not
+/// show.
+template <class T>
+T pick(int number, T original, T changed) noexcept {
+    return number == active ? changed : original;
 }
 
 /// A named operator, as in `a +plus(7)+ b`: the first half takes the left side,
 /// the second the right one and chooses.
-#define MUTANT_OPERATOR(name, half, original, changed)                              \
-    struct name {                                                                   \
-        explicit name(int n) : number(n) {}                                         \
-        int number;                                                                 \
-    };                                                                              \
-    template <class A>                                                              \
-    struct name##Left {                                                             \
-        A const& a;                                                                 \
-        int number;                                                                 \
-    };                                                                              \
-    template <class A>                                                              \
-    name##Left<A> operator half(A const& a, name const& op) {                       \
-        return {a, op.number};                                                      \
-    }                                                                               \
-    template <class A, class B>                                                     \
-    auto operator MUTANT_OTHER_##name(name##Left<A> left, B const& b) {             \
-        using Result = decltype(left.a original b);                                 \
-        return is(left.number) ? static_cast<Result>(left.a changed b)              \
-                               : static_cast<Result>(left.a original b);            \
+#define MUTANT_OPERATOR(name, half, original, changed)                            \
+    struct name {                                                                 \
+        constexpr explicit name(int n) : number(n) {}                             \
+        int number;                                                               \
+    };                                                                            \
+    template <class A>                                                            \
+    struct name##Left {                                                           \
+        A const& a;                                                               \
+        int number;                                                               \
+    };                                                                            \
+    template <class A>                                                            \
+    constexpr name##Left<A> operator half(A const& a, name const& op) {           \
+        return {a, op.number};                                                    \
+    }                                                                             \
+    template <class A, class B>                                                   \
+    constexpr auto operator MUTANT_OTHER_##name(name##Left<A> left, B const& b) { \
+        using Result = decltype(left.a original b);                               \
+        return is(left.number) ? static_cast<Result>(left.a changed b)            \
+                               : static_cast<Result>(left.a original b);          \
     }
 
 #define MUTANT_OTHER_less >

@@ -425,7 +425,8 @@ def is_member(statement):
 
 def woven(source, numbered):
     """The source with the numbered mutations built in, and the lines on which
-    each one stands there. What is `constexpr` can be so no longer."""
+    each one stands there. Variables can be `constexpr` no longer; functions can,
+    and show no change to the compiler."""
     edits, runs = [], {}
     for number, each in numbered:
         for start, end, text in each.change.edits:
@@ -434,11 +435,17 @@ def woven(source, numbered):
             runs.setdefault(each.change.run, []).append((number, each.change))
     for run, swaps in runs.items():
         edits += run_edits(source, run, swaps)
+    quiet = []
     for match in re.finditer(r"^([ \t]*)constexpr ", source if edits else "", re.MULTILINE):
-        text = "const " if match.group(1) else "inline const "
-        edits.append((match.end(1), match.end(), 0, text, []))
+        if re.search(r"[({=;]", source[match.end():]).group() == "(":
+            quiet.append((match.start(), end_of_function(source, match.end())))
+        else:
+            text = "const " if match.group(1) else "inline const "
+            edits.append((match.end(1), match.end(), 0, text, []))
     result, at, lines = "", 0, {}
     for start, end, _, text, numbers in sorted(edits, key=lambda edit: edit[:3]):
+        if any(first <= start < last for first, last in quiet):
+            text = text.replace("mutant::pick(", "mutant::quietPick(")
         result += source[at:start]
         first = result.count("\n") + 1
         result += text
@@ -446,6 +453,16 @@ def woven(source, numbered):
         for number in numbers:
             lines.setdefault(number, set()).update(range(first, result.count("\n") + 2))
     return result + source[at:], lines
+
+
+def end_of_function(source, start):
+    """Where the braces end that come next."""
+    depth = 0
+    for token in code_of(source[start:]):
+        depth += {"{": 1, "}": -1}.get(token.text, 0)
+        if token.text == "}" and depth == 0 or token.text == ";" and depth == 0:
+            return start + token.end
+    return len(source)
 
 
 def run_edits(source, run, swaps):
