@@ -1,5 +1,6 @@
 /// The colours that are far apart, beside the plain form of their selection.
 #include "benchmarks/groups.hpp"
+#include "prism/tinctures/science/FarthestPoints.hpp"
 #include "prism/tinctures/science/plainFarthestPoints.hpp"
 
 namespace benchmarks {
@@ -27,9 +28,20 @@ std::vector<LabPoint> const& backgrounds() {
     return black;
 }
 
-std::vector<LabPoint> plainConversion(int steps) {
-    std::vector<RgbTriple> const grid = plainGrid(RgbGrid(steps));
-    return rgbToLab(light(), static_cast<int>(grid.size()), grid);
+std::vector<std::size_t> distinct(Size const& size) {
+    FarthestPoints points(light(), RgbGrid(size.steps), size.colors);
+    for (LabPoint const& background : backgrounds())
+        points.take(background);
+    std::vector<std::size_t> picks;
+    while (picks.size() < size.colors)
+        picks.push_back(points.pick().value());
+    return picks;
+}
+
+std::vector<std::size_t> plainDistinct(Size const& size) {
+    std::vector<RgbTriple> const grid = plainGrid(RgbGrid(size.steps));
+    return plainFarthestPoints(rgbToLab(light(), static_cast<int>(grid.size()), grid),
+                               backgrounds(), size.colors);
 }
 
 template <class Operation>
@@ -42,70 +54,21 @@ std::string add(std::string const& name, Operation operation) {
     return name;
 }
 
-/// The same where each run needs something fresh, which is not timed.
-template <class Prepare, class Operation>
-std::string add(std::string const& name, Prepare prepare, Operation operation) {
-    benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
-        for ([[maybe_unused]] auto _ : state) {
-            state.PauseTiming();
-            auto fresh = prepare();
-            state.ResumeTiming();
-            benchmark::DoNotOptimize(operation(fresh));
-        }
-        state.SetItemsProcessed(state.iterations());
-    });
-    return name;
-}
-
-void addConversion(Group& group, int steps) {
-    std::string const what = std::to_string(steps) + " steps";
-    group.rows.push_back(
-        {what,
-         add("convert " + what, [steps] { return FarthestPoints(light(), RgbGrid(steps)); }),
-         {add("plain convert " + what, [steps] { return plainConversion(steps); })}});
-}
-
-void addSelection(Group& group, Size const& size) {
-    FarthestPoints const converted(light(), RgbGrid(size.steps));
+void addRow(Group& group, Size const& size) {
     group.rows.push_back(
         {text(size),
-         add(
-             "select " + text(size), [converted] { return FarthestPoints(converted); },
-             [size](FarthestPoints& points) { return points.pick(backgrounds(), size.colors); }),
-         {add(
-             "plain select " + text(size),
-             [points = plainConversion(size.steps)] { return points; },
-             [size](std::vector<LabPoint>& points) {
-                 return plainFarthestPoints(std::move(points), backgrounds(), size.colors);
-             })}});
-}
-
-void addWhole(Group& group, Size const& size) {
-    group.rows.push_back({text(size),
-                          add("distinct " + text(size),
-                              [size] {
-                                  return FarthestPoints(light(), RgbGrid(size.steps))
-                                      .pick(backgrounds(), size.colors);
-                              }),
-                          {add("plain distinct " + text(size), [size] {
-                              return plainFarthestPoints(plainConversion(size.steps), backgrounds(),
-                                                         size.colors);
-                          })}});
+         add("distinct " + text(size), [size] { return distinct(size); }),
+         {add("plain distinct " + text(size), [size] { return plainDistinct(size); })}});
 }
 
 }  // namespace
 
 std::vector<Group> distinctColors() {
-    Group conversion{"Distinct colours: conversion of the grid", {"plain form"}, {}};
-    Group selection{"Distinct colours: selection", {"plain form"}, {}};
-    Group whole{"Distinct colours: the whole call", {"plain form"}, {}};
-    for (int const steps : {30, 60})
-        addConversion(conversion, steps);
-    for (Size const size : {Size{10, 30}, Size{100, 30}, Size{1000, 30}, Size{100, 60}}) {
-        addSelection(selection, size);
-        addWhole(whole, size);
-    }
-    return {conversion, selection, whole};
+    Group group{"Distinct colours", {"plain form"}, {}};
+    for (Size const size : {Size{10, 30}, Size{100, 30}, Size{1000, 30}, Size{10, 60},
+                            Size{100, 60}, Size{10, 128}, Size{1000, 10}})
+        addRow(group, size);
+    return {group};
 }
 
 }  // namespace benchmarks

@@ -4,9 +4,7 @@
 
 #include "host/creators/VSource.hpp"
 #include "prism/tinctures/OutputMap.hpp"
-#include "prism/tinctures/science/FarthestPoints.hpp"
-#include "prism/tinctures/science/LabColor.hpp"
-#include "prism/tinctures/science/vectorSize.hpp"
+#include "prism/tinctures/science/distinctColors.hpp"
 
 using namespace Orlo;
 using namespace prism;
@@ -18,8 +16,8 @@ public:
     /// A table in the order of picking. It never changes.
     class Ramp : public Colormap {
     public:
-        Ramp(int count, int steps, Enum const& illuminant, rgba_float_t background1,
-             rgba_float_t background2);
+        explicit Ramp(DistinctRequest const& request)
+            : NumberOfColors(request.count), Colors(distinctColors(request)) {}
 
         int getMin() const override { return 0; }
         int getMax() const override { return 1; }
@@ -44,15 +42,13 @@ public:
     /// does not touch it.
     bool update(VRequest& request, double) override {
         OutputMap output(*this, request);
-        int count = 0, steps = 0;
-        Enum light;
-        rgba_float_t first, second;
-        output.read(numberOfColors, count);
-        output.read(rgbSteps, steps);
-        output.read(illuminant, light);
-        output.read(background1, first);
-        output.read(background2, second);
-        output.hold(new Ramp(count, steps, light, first, second));
+        DistinctRequest wanted{};
+        output.read(numberOfColors, wanted.count);
+        output.read(rgbSteps, wanted.steps);
+        output.read(illuminant, wanted.illuminant);
+        output.read(background1, wanted.background1);
+        output.read(background2, wanted.background2);
+        output.hold(new Ramp(wanted));
         output.drawIcon();
         return output.publish();
     }
@@ -66,37 +62,6 @@ private:
     TypedSlot<rgba_float_t> background1{this, "Background Color 1", {0, 0, 0, 1}, 0};
     TypedSlot<rgba_float_t> background2{this, "Background Color 2", {0, 0, 0, 1}, 0};
 };
-
-/// What one map may hold and one grid may have: as many colours, and as many
-/// steps, as there are with 8 bits. A grid of 256 steps takes half a gigabyte for a while.
-constexpr int MostColors = 256 * 256 * 256;
-constexpr int MostSteps = 256;
-
-std::size_t sizeUpTo(int most, int count, char const* refusal) {
-    std::size_t const size = vectorSize(count);
-    if (count > most)
-        throw std::length_error(refusal);
-    return size;
-}
-
-RgbTriple widened(rgba_float_t const& color) {
-    return {color.red(), color.green(), color.blue()};
-}
-
-ColorRampDistinguish::Ramp::Ramp(int count, int steps, Enum const& illuminant,
-                                 rgba_float_t background1, rgba_float_t background2)
-    : NumberOfColors(count),
-      Colors(sizeUpTo(MostColors, count, "'Number of Colors' is greater than 16777216")) {
-    sizeUpTo(MostSteps, steps, "'RGB Steps' is greater than 256");
-    RgbGrid const grid(steps);
-    std::vector<RgbTriple> const backgrounds{widened(background1), widened(background2)};
-    auto const picks =
-        FarthestPoints(illuminant, grid).pick(rgbToLab(illuminant, 2, backgrounds), Colors.size());
-    for (std::size_t n = 0; n < picks.size(); ++n) {
-        RgbTriple const pick = grid[picks[n]];
-        Colors[n] = {pick.red, pick.green, pick.blue, 1};
-    }
-}
 
 /// Rounds half away from zero, exactly, without a carry from just below a half.
 double rounded(double x) {

@@ -1,277 +1,280 @@
 /// Why most points need no look, and yet no bit is lost.
 ///
-/// The points stand in blocks, sub-cubes of the grid, each with the bounding box
-/// of its points in Lab and the greatest of their `nearest`. The distance of a new
-/// colour to the box, computed in the order in which the distance of a point is,
-/// never exceeds the computed distance of a point in the box: subtraction, square
-/// and sum are monotone under IEEE rounding, and nothing is contracted. So a block
-/// whose greatest `nearest` is not above that bound has no point that the new
-/// colour could come nearer to, and the search for the farthest point of all is
-/// one over the blocks.
+/// The grid is a tree of cubes. Each cube has a box in Lab that holds its exactly
+/// converted points (RoughLab says why), and a claim: a bound that none of its
+/// points is farther from all taken colours than, and the lowest index that one
+/// as far may have. The pick of the plain form, the farthest point and of equal
+/// ones the first, is the greatest claim of all as soon as that is the claim of a
+/// point. Until then the cube that makes it is looked at more closely: it is
+/// halved along each channel, or, if it is small, its points are measured.
+///
+/// The distance of a taken colour to the nearest and to the farthest place of a
+/// box, computed in the order in which the distance of a point is, is never
+/// greater and never less than that of a point in it: subtraction, square and sum
+/// are monotone under IEEE rounding, and nothing is contracted. So a colour that is no
+/// nearer to a box than its bound changes nothing in it; and that any other one
+/// lowers the bound to its distance from the farthest place.
+///
+/// NaN compares false, so that it lowers nothing, as in the plain form.
 #include "prism/tinctures/science/FarthestPoints.hpp"
 
 #include <algorithm>
-#include <array>
-#include <cstring>
-#include <limits>
+#include <utility>
+#include <vector>
+
+#include "prism/tinctures/science/LabBlock.hpp"
 
 namespace prism {
 
 namespace {
 
-/// Two doubles at once, as every 64-bit x86 processor has them. Four at once, on
-/// those that can, gained a seventh and were not worth a second code path.
-using Pair [[gnu::vector_size(16)]] = double;
-constexpr std::size_t PairSize = 2;
+/// A cube of the grid in up to eight parts: it is halved along each channel.
+class Branch {
+public:
+    /// The cube has seen the given colours, and maybe others, which are far; they
+    /// give the bound.
+    Branch(LabGrid const& grid, Cube const& cube, std::vector<LabPoint> taken, double bound);
 
-Pair load(double const* from) {
-    Pair pair;
-    std::memcpy(&pair, from, sizeof pair);
-    return pair;
+    /// Lets the points see a colour just taken.
+    void approach(LabPoint const& taken);
+
+    /// The greatest claim of its parts.
+    Claim claim() const;
+
+    /// The point that makes the claim; null if no single point does yet, and then
+    /// the part that makes it is looked at more closely.
+    Candidate const* look();
+
+private:
+    static constexpr std::size_t Parts = 8;
+    using Numbers = std::array<double, Parts>;
+    using Corners = std::array<Numbers, 3>;
+
+    Cube part(std::size_t i) const;
+    void addParts(double bound);
+    void addBoxes();
+    std::size_t best() const;
+    Pair leastDistance(LabPoint const& taken, std::size_t i) const;
+    Pair greatestDistance(LabPoint const& taken, std::size_t i) const;
+    void lowerBounds(LabPoint const& taken, std::size_t i);
+    void open(std::size_t i);
+    void renewClaim(std::size_t i);
+
+    LabGrid const& grid_;
+    Cube cube_;
+    std::vector<LabPoint> taken_;  ///< while parts are unopened: what may be near to them
+    std::size_t unopened_ = 0;
+    Corners least_, greatest_;  ///< L, a and b of the boxes
+    Numbers bound_{};           ///< 0 where no part is
+    std::array<std::uint32_t, Parts> index_{};
+    std::array<std::unique_ptr<Branch>, Parts> branches_;
+    std::array<std::unique_ptr<LabBlock>, Parts> blocks_;
+};
+
+/// Steps a channel of the largest block; measured best of 4 to 8.
+constexpr int BlockEdge = 5;
+
+bool isSmall(Cube const& cube) {
+    return cube.size(0) <= BlockEdge && cube.size(1) <= BlockEdge && cube.size(2) <= BlockEdge;
 }
 
-void store(double* to, Pair pair) {
-    std::memcpy(to, &pair, sizeof pair);
-}
-
-constexpr std::size_t roundedUp(std::size_t count) {
-    return (count + PairSize - 1) / PairSize * PairSize;
-}
-
-/// The squared distance along the three axes; the order of the sums decides ties.
-template <class Number>
-Number squaredDistance(Number L, Number a, Number b) {
-    return (a * a + L * L) + b * b;
+/// The first lane of the pair in which a lane is.
+constexpr std::size_t firstLane(std::size_t lane) {
+    return lane / LaneCount<Pair> * LaneCount<Pair>;
 }
 
 /// How far a coordinate lies outside of a box, or 0.
 Pair outside(double taken, double const* least, double const* greatest) {
-    Pair const below = load(least) - taken;
-    Pair const above = taken - load(greatest);
-    Pair const outer = below > above ? below : above;
-    Pair const none = {};
-    return outer > none ? outer : none;
+    return greater(greater(load<Pair>(least) - taken, taken - load<Pair>(greatest)), Pair{});
 }
 
-/// Points or corners as one array for each coordinate, with room for whole pairs.
-struct Coordinates {
-    std::vector<double> L, a, b;
+/// How far a coordinate is from the farther side of a box.
+Pair across(double taken, double const* least, double const* greatest) {
+    return greater(taken - load<Pair>(least), load<Pair>(greatest) - taken);
+}
 
-    explicit Coordinates(std::size_t count)
-        : L(roundedUp(count)), a(roundedUp(count)), b(roundedUp(count)) {}
+Branch::Branch(LabGrid const& grid, Cube const& cube, std::vector<LabPoint> taken, double bound)
+    : grid_(grid), cube_(cube), taken_(std::move(taken)) {
+    addParts(bound);
+    addBoxes();
+    for (LabPoint const& color : taken_)
+        for (std::size_t i = 0; i < Parts; i += LaneCount<Pair>)
+            lowerBounds(color, i);
+}
 
-    void set(std::size_t i, double newL, double newA, double newB) {
-        L[i] = newL;
-        a[i] = newA;
-        b[i] = newB;
+/// One half of the cube along each channel; a channel of few steps stays whole,
+/// and its second half is empty.
+Cube Branch::part(std::size_t i) const {
+    Cube part = cube_;
+    for (std::size_t channel = 0; channel < 3; ++channel) {
+        int const size = cube_.size(channel);
+        int const middle = cube_.first[channel] + (size > BlockEdge ? (size + 1) / 2 : size);
+        bool const second = (i >> (2 - channel) & 1) != 0;
+        (second ? part.first : part.end)[channel] = middle;
     }
-};
-
-std::size_t cubed(int edge) {
-    auto const size = static_cast<std::size_t>(edge);
-    return size * size * size;
+    return part;
 }
 
-}  // namespace
-
-class FarthestPoints::Search {
-public:
-    Search(Orlo::Enum const& illuminant, RgbGrid const& grid);
-
-    /// Takes a colour, and finds the point that is the farthest from all taken
-    /// ones. False if every point coincides with one.
-    bool take(LabPoint const& taken);
-    /// The index of the point found; before and without any, the first.
-    std::size_t best() const noexcept { return best_; }
-    LabPoint bestPoint() const {
-        return {points_.L[bestPlace_], points_.a[bestPlace_], points_.b[bestPlace_], 0.0};
-    }
-
-private:
-    /// Where a block's points stand in the arrays, and in the grid.
-    struct Block {
-        std::size_t first, end;  ///< places, whole pairs
-        int red, green, blue;    ///< steps of its first point
-        int greens, blues;       ///< its extent
-    };
-
-    /// Steps a channel of a block: measured best of 4 to 7 at 1000 colours.
-    static constexpr int BlockEdge = 5;
-
-    static std::size_t blockCount(int steps) { return cubed((steps + BlockEdge - 1) / BlockEdge); }
-
-    void addBlock(LabConversion const& convert, std::vector<double> const& linear, int red,
-                  int green, int blue);
-    void bindBox(std::size_t block, LabPoint const& point);
-    void measureBoxes(LabPoint const& taken);
-    void approach(std::size_t block, LabPoint const& taken);
-    void findBest(double farthest);
-    std::size_t indexOf(Block const& block, std::size_t place) const;
-
-    int steps_;
-    Coordinates points_;
-    std::vector<double> nearest_;  ///< 0 where no point stands
-    std::vector<Block> blocks_;
-    Coordinates least_, greatest_;  ///< corners of the blocks' boxes
-    std::vector<double> bound_;     ///< distance of the colour just taken to each box
-    std::vector<double> farthest_;  ///< greatest `nearest` of each block
-    std::size_t best_ = 0, bestPlace_ = 0;
-};
-
-FarthestPoints::Search::Search(Orlo::Enum const& illuminant, RgbGrid const& grid)
-    : steps_(grid.steps()),
-      points_(cubed(steps_) + blockCount(steps_)),
-      nearest_(points_.L.size()),
-      least_(blockCount(steps_)),
-      greatest_(blockCount(steps_)),
-      bound_(least_.L.size()),
-      farthest_(blockCount(steps_), NothingNear) {
-    std::vector<double> linear;  // the companding of a channel takes few values
-    for (int step = 0; step < steps_; ++step)
-        linear.push_back(linearPercent(grid.channel(step)));
-    LabConversion const convert(illuminant);
-    blocks_.reserve(farthest_.size());
-    for (int red = 0; red < steps_; red += BlockEdge)
-        for (int green = 0; green < steps_; green += BlockEdge)
-            for (int blue = 0; blue < steps_; blue += BlockEdge)
-                addBlock(convert, linear, red, green, blue);
+void Branch::addParts(double bound) {
+    for (std::size_t i = 0; i < Parts; ++i)
+        if (Cube const cube = part(i); !cube.isEmpty()) {
+            bound_[i] = bound;
+            index_[i] = grid_.index(cube.first);
+            ++unopened_;
+        }
 }
 
-void FarthestPoints::Search::addBlock(LabConversion const& convert,
-                                      std::vector<double> const& linear, int red, int green,
-                                      int blue) {
-    int const redEnd = std::min(red + BlockEdge, steps_);
-    int const greenEnd = std::min(green + BlockEdge, steps_);
-    int const blueEnd = std::min(blue + BlockEdge, steps_);
-    std::size_t const block = blocks_.size();
-    std::size_t const first = blocks_.empty() ? 0 : blocks_.back().end;
-    std::size_t place = first;
-    constexpr double far = std::numeric_limits<double>::infinity();
-    least_.set(block, far, far, far);
-    greatest_.set(block, -far, -far, -far);
-    for (int i = red; i < redEnd; ++i)
-        for (int j = green; j < greenEnd; ++j)
-            for (int k = blue; k < blueEnd; ++k) {
-                LabPoint const point = convert(linear[static_cast<std::size_t>(i)],
-                                               linear[static_cast<std::size_t>(j)],
-                                               linear[static_cast<std::size_t>(k)]);
-                points_.set(place, point.L, point.a, point.b);
-                nearest_[place++] = point.nearest;
-                bindBox(block, point);
-            }
-    blocks_.push_back(
-        {first, roundedUp(place), red, green, blue, greenEnd - green, blueEnd - blue});
-}
-
-/// Widens the block's box by a point. NaN widens nothing: it is near to nothing.
-void FarthestPoints::Search::bindBox(std::size_t block, LabPoint const& point) {
-    auto const widen = [block](std::vector<double>& low, std::vector<double>& high, double value) {
-        low[block] = value < low[block] ? value : low[block];
-        high[block] = value > high[block] ? value : high[block];
-    };
-    widen(least_.L, greatest_.L, point.L);
-    widen(least_.a, greatest_.a, point.a);
-    widen(least_.b, greatest_.b, point.b);
-}
-
-void FarthestPoints::Search::measureBoxes(LabPoint const& taken) {
-    // Local addresses: a store could change those in the members.
-    double* const bound = bound_.data();
-    double const *const lowL = least_.L.data(), *const highL = greatest_.L.data();
-    double const *const lowA = least_.a.data(), *const highA = greatest_.a.data();
-    double const *const lowB = least_.b.data(), *const highB = greatest_.b.data();
-    for (std::size_t i = 0, end = bound_.size(); i < end; i += PairSize)
-        store(bound + i, squaredDistance(outside(taken.L, lowL + i, highL + i),
-                                         outside(taken.a, lowA + i, highA + i),
-                                         outside(taken.b, lowB + i, highB + i)));
-}
-
-/// Lets the points of a block see the colour just taken.
-void FarthestPoints::Search::approach(std::size_t block, LabPoint const& taken) {
-    Pair farthest = {};
-    double* const nearest = nearest_.data();
-    double const *const L = points_.L.data(), *const a = points_.a.data(),
-                        *const b = points_.b.data();
-    for (std::size_t i = blocks_[block].first, end = blocks_[block].end; i < end; i += PairSize) {
-        Pair const distance =
-            squaredDistance(taken.L - load(L + i), taken.a - load(a + i), taken.b - load(b + i));
-        Pair const before = load(nearest + i);
-        Pair const now = before > distance ? distance : before;
-        store(nearest + i, now);
-        farthest = now > farthest ? now : farthest;
-    }
-    farthest_[block] = std::max(farthest[0], farthest[1]);
-}
-
-bool FarthestPoints::Search::take(LabPoint const& taken) {
-    measureBoxes(taken);
-    double farthest = 0.0;
-    for (std::size_t block = 0; block < blocks_.size(); ++block) {
-        if (!(bound_[block] >= farthest_[block]))
-            approach(block, taken);
-        farthest = std::max(farthest, farthest_[block]);
-    }
-    if (farthest > 0.0)
-        findBest(farthest);
-    return farthest > 0.0;
-}
-
-/// Of all points at the farthest distance, the one of the lowest index: within a
-/// block that is the first place.
-void FarthestPoints::Search::findBest(double farthest) {
-    best_ = std::numeric_limits<std::size_t>::max();
-    for (std::size_t block = 0; block < blocks_.size(); ++block) {
-        if (farthest_[block] != farthest)
-            continue;
-        std::size_t place = blocks_[block].first;
-        while (nearest_[place] != farthest)
-            ++place;
-        std::size_t const index = indexOf(blocks_[block], place);
-        if (index < best_) {
-            best_ = index;
-            bestPlace_ = place;
+void Branch::addBoxes() {
+    constexpr std::size_t Lanes = LaneCount<Quad>;
+    for (std::size_t i = 0; i < Parts; i += Lanes) {
+        QuadRgb least{}, greatest{};
+        for (std::size_t lane = 0; lane < Lanes; ++lane) {
+            if (bound_[i + lane] == 0.0)
+                continue;
+            Cube const cube = part(i + lane);
+            auto const linear = [this](int step) { return static_cast<float>(grid_.linear(step)); };
+            least.red[lane] = linear(cube.first[0]);
+            least.green[lane] = linear(cube.first[1]);
+            least.blue[lane] = linear(cube.first[2]);
+            greatest.red[lane] = linear(cube.end[0] - 1);
+            greatest.green[lane] = linear(cube.end[1] - 1);
+            greatest.blue[lane] = linear(cube.end[2] - 1);
+        }
+        QuadLab const low = grid_.rough().leastCorner(least, greatest);
+        QuadLab const high = grid_.rough().greatestCorner(least, greatest);
+        for (std::size_t lane = 0; lane < Lanes; ++lane) {
+            least_[0][i + lane] = low.L[lane];
+            least_[1][i + lane] = low.a[lane];
+            least_[2][i + lane] = low.b[lane];
+            greatest_[0][i + lane] = high.L[lane];
+            greatest_[1][i + lane] = high.a[lane];
+            greatest_[2][i + lane] = high.b[lane];
         }
     }
 }
 
-std::size_t FarthestPoints::Search::indexOf(Block const& block, std::size_t place) const {
-    auto const within = static_cast<int>(place - block.first);
-    int const red = block.red + within / (block.greens * block.blues);
-    int const green = block.green + within / block.blues % block.greens;
-    int const blue = block.blue + within % block.blues;
-    return static_cast<std::size_t>((red * steps_ + green) * steps_ + blue);
+/// The squared distances of a colour from the nearest places of two boxes.
+Pair Branch::leastDistance(LabPoint const& taken, std::size_t i) const {
+    return squaredDistance(outside(taken.L, &least_[0][i], &greatest_[0][i]),
+                           outside(taken.a, &least_[1][i], &greatest_[1][i]),
+                           outside(taken.b, &least_[2][i], &greatest_[2][i]));
 }
 
-RgbTriple RgbGrid::operator[](std::size_t index) const noexcept {
-    auto const edge = static_cast<std::size_t>(steps_);
-    auto const at = [this](std::size_t step) { return channel(static_cast<int>(step)); };
-    return {at(index / (edge * edge)), at(index / edge % edge), at(index % edge)};
+/// The same from the farthest places.
+Pair Branch::greatestDistance(LabPoint const& taken, std::size_t i) const {
+    return squaredDistance(across(taken.L, &least_[0][i], &greatest_[0][i]),
+                           across(taken.a, &least_[1][i], &greatest_[1][i]),
+                           across(taken.b, &least_[2][i], &greatest_[2][i]));
 }
 
-FarthestPoints::FarthestPoints(Orlo::Enum const& illuminant, RgbGrid const& grid)
-    : search_(grid.steps() > 0 ? std::make_unique<Search>(illuminant, grid) : nullptr) {}
+void Branch::lowerBounds(LabPoint const& taken, std::size_t i) {
+    store(&bound_[i], lesser(greatestDistance(taken, i), load<Pair>(&bound_[i])));
+}
 
-FarthestPoints::FarthestPoints(FarthestPoints const& other)
-    : search_(other.search_ ? std::make_unique<Search>(*other.search_) : nullptr) {}
+void Branch::approach(LabPoint const& taken) {
+    Numbers least;
+    for (std::size_t i = 0; i < Parts; i += LaneCount<Pair>)
+        store(&least[i], leastDistance(taken, i));
+    if (unopened_ > 0)
+        taken_.push_back(taken);
+    for (std::size_t i = 0; i < Parts; ++i) {
+        if (least[i] >= bound_[i])
+            continue;
+        if (branches_[i])
+            branches_[i]->approach(taken);
+        else if (blocks_[i])
+            blocks_[i]->approach(taken);
+        else
+            lowerBounds(taken, firstLane(i));
+        renewClaim(i);
+    }
+}
+
+void Branch::renewClaim(std::size_t i) {
+    Claim claim{bound_[i], index_[i]};
+    if (branches_[i])
+        claim = branches_[i]->claim();
+    else if (blocks_[i])
+        claim = blocks_[i]->claim();
+    bound_[i] = claim.bound;
+    index_[i] = claim.index;
+}
+
+/// The part of the greatest claim.
+std::size_t Branch::best() const {
+    Pair most = load<Pair>(bound_.data());
+    for (std::size_t i = LaneCount<Pair>; i < Parts; i += LaneCount<Pair>)
+        most = greater(load<Pair>(&bound_[i]), most);
+    double const greatest = greatestOf(most);
+    std::size_t best = Parts;
+    for (std::size_t i = 0; i < Parts; ++i)
+        if (bound_[i] == greatest && (best == Parts || index_[i] < index_[best]))
+            best = i;
+    return best;
+}
+
+Claim Branch::claim() const {
+    std::size_t const i = best();
+    return {bound_[i], index_[i]};
+}
+
+Candidate const* Branch::look() {
+    std::size_t const i = best();
+    Candidate const* found = nullptr;
+    if (branches_[i])
+        found = branches_[i]->look();
+    else if (blocks_[i])
+        found = blocks_[i]->look();
+    else
+        open(i);
+    renewClaim(i);
+    return found;
+}
+
+/// Opens a part, which takes over what may be near to it.
+void Branch::open(std::size_t i) {
+    std::vector<LabPoint> near;
+    near.reserve(taken_.size());
+    for (LabPoint const& color : taken_)
+        if (leastDistance(color, firstLane(i))[i - firstLane(i)] < bound_[i])
+            near.push_back(color);
+    Cube const cube = part(i);
+    if (isSmall(cube))
+        blocks_[i] = std::make_unique<LabBlock>(grid_, cube, std::move(near));
+    else
+        branches_[i] = std::make_unique<Branch>(grid_, cube, std::move(near), bound_[i]);
+    if (--unopened_ == 0)
+        taken_ = {};
+}
+
+}  // namespace
+
+struct FarthestPoints::Search {
+    Search(Orlo::Enum const& illuminant, RgbGrid const& colors, std::size_t picks)
+        : grid(illuminant, colors, picks), all(grid, grid.whole(), {}, NothingNear) {}
+
+    LabGrid grid;
+    Branch all;
+};
+
+FarthestPoints::FarthestPoints(Orlo::Enum const& illuminant, RgbGrid const& grid, std::size_t picks)
+    : search_(std::make_unique<Search>(illuminant, grid, picks)) {}
 
 FarthestPoints::~FarthestPoints() = default;
 
-std::vector<std::size_t> FarthestPoints::pick(std::vector<LabPoint> const& backgrounds,
-                                              std::size_t count) {
-    std::vector<std::size_t> picks;
-    if (!search_ || count == 0)
-        return picks;
-    picks.reserve(count);
-    bool more = true;
-    for (LabPoint const& background : backgrounds)
-        more = search_->take(background);
-    picks.push_back(search_->best());
-    while (more && picks.size() < count) {
-        more = search_->take(search_->bestPoint());
-        picks.push_back(search_->best());
-    }
-    picks.resize(count, search_->best());
-    return picks;
+void FarthestPoints::take(LabPoint const& background) {
+    search_->all.approach(background);
+}
+
+std::optional<std::size_t> FarthestPoints::pick() {
+    Branch& all = search_->all;
+    while (all.claim().bound > 0.0)
+        if (Candidate const* const found = all.look()) {
+            Candidate const picked = *found;
+            all.approach(picked.point);
+            return picked.index;
+        }
+    return std::nullopt;
 }
 
 }  // namespace prism

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "host/values/Enum.hpp"
+#include "prism/tinctures/science/standardIlluminant.hpp"
 
 namespace prism {
 
@@ -28,20 +28,8 @@ inline constexpr double NothingNear = 1000000000000000.0;
 /// Undoes the sRGB companding of one channel; in percent.
 double linearPercent(double channel);
 
-/// The way from linear RGB to Lab under one illuminant: D50 where that word is
-/// selected, and D65 otherwise.
-class LabConversion {
-public:
-    explicit LabConversion(Orlo::Enum const& illuminant);
-
-    /// The point of a colour with the given linear channels, in percent.
-    LabPoint operator()(double red, double green, double blue) const;
-
-    struct Constants;
-
-private:
-    Constants const& light_;
-};
+/// The point of a colour with the given linear channels, in percent.
+LabPoint linearToLab(StandardIlluminant const& light, Triple const& linear);
 
 /// Converts the first `count` colours, in their order. The illuminant is D50
 /// where that word is selected, and D65 otherwise. Nothing is limited; a

@@ -200,11 +200,26 @@ TEST_F(DistinguishColormap, RefusesNegativeCountsAndSteps) {
     EXPECT_EQ(refusal({{"RGB Steps", "-2147483648"}}), negative);
 }
 
-TEST_F(DistinguishColormap, RefusesMoreThanEightBitsTellApart) {
-    EXPECT_EQ(refusal({{"RGB Steps", "257"}}), "'RGB Steps' is greater than 256");
-    EXPECT_EQ(refusal({{"RGB Steps", "2147483647"}}), "'RGB Steps' is greater than 256");
-    EXPECT_EQ(refusal({{"Number of Colors", "16777217"}}),
-              "'Number of Colors' is greater than 16777216");
+TEST_F(DistinguishColormap, RefusesGridsOfMorePointsThan31BitsCount) {
+    EXPECT_EQ(refusal({{"RGB Steps", "1290"}}), "no refusal");
+    EXPECT_EQ(refusal({{"RGB Steps", "1291"}}), "'RGB Steps' is greater than 1290");
+    EXPECT_EQ(refusal({{"RGB Steps", "2147483647"}}), "'RGB Steps' is greater than 1290");
+}
+
+TEST_F(DistinguishColormap, RefusesWhatWouldTakeTooLong) {
+    EXPECT_EQ(refusal({{"RGB Steps", "1290"}, {"Number of Colors", "932"}}),
+              "'Number of Colors' is greater than 931, the most of 1290 'RGB Steps'");
+    EXPECT_EQ(refusal({{"RGB Steps", "127"}, {"Number of Colors", "2147483647"}}),
+              "'Number of Colors' is greater than 134217728");
+    EXPECT_EQ(refusal({{"RGB Steps", "127"}, {"Number of Colors", "100000000"}}),
+              "'Number of Colors' is greater than 976379, the most of 127 'RGB Steps'");
+}
+
+TEST_F(DistinguishColormap, RefusesNothingThatIsQuick) {
+    EXPECT_EQ(refusal({{"RGB Steps", "2"}, {"Number of Colors", "20000000"}}), "no refusal");
+    EXPECT_EQ(refusal({{"RGB Steps", "257"}, {"Number of Colors", "100"}}), "no refusal");
+    EXPECT_EQ(refusal({{"RGB Steps", "20"}, {"Number of Colors", "8000"}}), "no refusal");
+    EXPECT_EQ(refusal({{"RGB Steps", "1290"}, {"Number of Colors", "0"}}), "no refusal");
 }
 
 TEST_F(DistinguishColormap, KeepsItsMapWhenItRefuses) {

@@ -4,9 +4,11 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <limits>
 #include <random>
 
+#include "prism/tinctures/science/lanes.hpp"
 #include "prism/tinctures/science/plainFarthestPoints.hpp"
 
 namespace tests {
@@ -56,31 +58,8 @@ Orlo::Enum illuminant(std::string const& word) {
     return Orlo::Enum().addCase("D50").addCase("D65").select(word);
 }
 
-/// A pair of backgrounds of one kind or another.
-std::vector<RgbTriple> randomBackgrounds(int kind, std::mt19937& random) {
-    std::uniform_real_distribution<double> component(0.0, 1.0);
-    std::vector<RgbTriple> backgrounds;
-    for (int i = 0; i < 2; ++i) {
-        double const grey = component(random);
-        switch (kind) {
-        case 0:  // greys, which many points are equally far from
-            backgrounds.push_back({grey, grey, grey});
-            break;
-        case 1:  // equal ones, which are points of the grid
-            backgrounds.push_back({1, 1, 1});
-            break;
-        case 2:
-            backgrounds.push_back({grey, std::numeric_limits<double>::quiet_NaN(), grey});
-            break;
-        case 3:  // beyond the grid, and far beyond
-            backgrounds.push_back({3 * grey - 1, 1e30 * component(random), -component(random)});
-            break;
-        default:
-            backgrounds.push_back({grey, component(random), component(random)});
-        }
-    }
-    return backgrounds;
-}
+constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double Infinity = std::numeric_limits<double>::infinity();
 
 struct GridCase {
     int steps;
@@ -89,26 +68,152 @@ struct GridCase {
     std::vector<RgbTriple> backgrounds;
 };
 
-void expectPlainPicks(GridCase const& given) {
-    RgbGrid const grid(given.steps);
-    std::vector<RgbTriple> const points = plainGrid(grid);
-    std::vector<LabPoint> const backgrounds = rgbToLab(given.light, 2, given.backgrounds);
-    auto const plain = plainFarthestPoints(
-        rgbToLab(given.light, static_cast<int>(points.size()), points), backgrounds, given.count);
-    EXPECT_EQ(FarthestPoints(given.light, grid).pick(backgrounds, given.count), plain)
-        << given.steps << " steps, " << given.count << " colours, " << given.light.selected();
+std::vector<LabPoint> backgroundsOf(GridCase const& given) {
+    return rgbToLab(given.light, static_cast<int>(given.backgrounds.size()), given.backgrounds);
 }
 
-TEST(FarthestPoints, PicksWhatThePlainFormPicks) {
-    constexpr unsigned Seed = 20240322;
-    std::mt19937 random(Seed);
-    for (int round = 0; round < 300; ++round) {
-        SCOPED_TRACE("seed " + std::to_string(Seed) + ", round " + std::to_string(round));
-        int const steps = std::uniform_int_distribution(1, 20)(random);
-        auto const count = std::uniform_int_distribution<std::size_t>(1, 60)(random);
-        auto const light = illuminant(round % 2 == 0 ? "D50" : "D65");
-        expectPlainPicks({steps, count, light, randomBackgrounds(round % 5, random)});
+std::vector<std::size_t> plainPicks(GridCase const& given) {
+    std::vector<RgbTriple> const points = plainGrid(RgbGrid(given.steps));
+    return plainFarthestPoints(rgbToLab(given.light, static_cast<int>(points.size()), points),
+                               backgroundsOf(given), given.count);
+}
+
+/// The picks for a number of colours that the search is told to expect.
+std::vector<std::size_t> picksExpecting(std::size_t expected, GridCase const& given) {
+    FarthestPoints points(given.light, RgbGrid(given.steps), expected);
+    for (LabPoint const& background : backgroundsOf(given))
+        points.take(background);
+    std::vector<std::size_t> picks;
+    while (picks.size() < given.count) {
+        std::size_t const last = picks.empty() ? 0 : picks.back();
+        picks.push_back(points.pick().value_or(last));
     }
+    return picks;
+}
+
+/// Whatever is expected, few colours or many, the picks are those of the plain form.
+void expectPlainPicks(GridCase const& given) {
+    std::vector<std::size_t> const plain = plainPicks(given);
+    constexpr std::size_t Many = std::numeric_limits<std::size_t>::max();
+    for (std::size_t const expected : {std::size_t{0}, Many})
+        EXPECT_EQ(picksExpecting(expected, given), plain)
+            << given.steps << " steps, " << given.count << " colours, " << given.light.selected()
+            << (expected == 0 ? ", roughly" : ", exactly") << " measured";
+}
+
+using Random = std::mt19937;
+
+/// Backgrounds of which each row says what is special.
+struct BackgroundKind {
+    char const* what;
+    RgbTriple (*color)(Random& random);
+};
+
+double component(Random& random, double least = 0.0, double greatest = 1.0) {
+    return std::uniform_real_distribution(least, greatest)(random);
+}
+
+double squaredDistance(LabPoint const& one, LabPoint const& other) {
+    double const a = one.a - other.a, L = one.L - other.L, b = one.b - other.b;
+    return (a * a + L * L) + b * b;
+}
+
+/// As far from grey as the start value of the distances, so that points lie on
+/// both sides of it: those beyond are all equally far.
+RgbTriple atTheStartValue(Random& random) {
+    RgbTriple const direction{component(random, -1), component(random, -1), component(random, -1)};
+    auto const at = [&](double far) {
+        return RgbTriple{far * direction.red, far * direction.green, far * direction.blue};
+    };
+    Orlo::Enum const light = illuminant("D50");
+    LabPoint const grey = rgbToLab(light, 1, {{0.5, 0.5, 0.5}})[0];
+    double near = 1e3, far = 1e12;
+    for (int halving = 0; halving < 100; ++halving) {
+        double const middle = (near + far) / 2;
+        (squaredDistance(rgbToLab(light, 1, {at(middle)})[0], grey) < NothingNear ? near : far) =
+            middle;
+    }
+    return at(far);
+}
+
+constexpr BackgroundKind BackgroundKinds[] = {
+    {"in the cube",
+     [](Random& random) {
+         return RgbTriple{component(random), component(random), component(random)};
+     }},
+    {"grey",
+     [](Random& random) {
+         double const grey = component(random);
+         return RgbTriple{grey, grey, grey};
+     }},
+    {"a corner",
+     [](Random& random) {
+         auto const corner = [&] { return static_cast<double>(random() % 2); };
+         return RgbTriple{corner(), corner(), corner()};
+     }},
+    {"beyond the cube",
+     [](Random& random) {
+         return RgbTriple{component(random, -1, 2), component(random, -1, 2),
+                          component(random, -1, 2)};
+     }},
+    {"far beyond",
+     [](Random& random) {
+         return RgbTriple{component(random, -1e30, 1e30), component(random, -1e4, 1e4),
+                          component(random)};
+     }},
+    {"at the start value", atTheStartValue},
+    {"not a number",
+     [](Random&) {
+         return RgbTriple{0.5, NotANumber, 0.5};
+     }},
+    {"infinite",
+     [](Random& random) {
+         return RgbTriple{random() % 2 == 0 ? Infinity : -Infinity, component(random), 0};
+     }},
+};
+
+class BackgroundsOf : public testing::TestWithParam<BackgroundKind> {};
+
+TEST_P(BackgroundsOf, ThisKindGiveThePicksOfThePlainForm) {
+    constexpr unsigned Seed = 20240322;
+    Random random(Seed);
+    for (int round = 0; round < 60; ++round) {
+        SCOPED_TRACE("seed " + std::to_string(Seed) + ", round " + std::to_string(round));
+        GridCase given{.steps = std::uniform_int_distribution(1, 20)(random),
+                       .count = std::uniform_int_distribution<std::size_t>(1, 80)(random),
+                       .light = illuminant(round % 2 == 0 ? "D50" : "D65"),
+                       .backgrounds = {}};
+        given.backgrounds.push_back(GetParam().color(random));
+        bool const isTwice = round % 3 == 0;
+        given.backgrounds.push_back(isTwice ? given.backgrounds[0] : GetParam().color(random));
+        expectPlainPicks(given);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(FarthestPoints, BackgroundsOf, testing::ValuesIn(BackgroundKinds),
+                         [](auto const& each) {
+                             std::string name = each.param.what;
+                             std::ranges::replace(name, ' ', '_');
+                             return name;
+                         });
+
+/// Beyond the start value points tie, and the first is taken; how the sums of the
+/// distance are rounded decides which those are.
+TEST(FarthestPoints, TakesTheFirstOfThosePointsThatNothingIsNearTo) {
+    Random random(7);
+    int ties = 0;
+    for (int round = 0; round < 500; ++round) {
+        SCOPED_TRACE(round);
+        GridCase const given{.steps = std::uniform_int_distribution(5, 24)(random),
+                             .count = 1,
+                             .light = illuminant("D50"),
+                             .backgrounds = {atTheStartValue(random)}};
+        std::vector<RgbTriple> const points = plainGrid(RgbGrid(given.steps));
+        LabPoint const background = backgroundsOf(given)[0];
+        ties += squaredDistance(background, rgbToLab(given.light, 1, points)[0]) < NothingNear;
+        expectPlainPicks(given);
+    }
+    EXPECT_GT(ties, 50) << "the first of all is hardly ever near enough";
 }
 
 TEST(FarthestPoints, PicksAThousandColoursAsThePlainFormDoes) {
@@ -116,15 +221,52 @@ TEST(FarthestPoints, PicksAThousandColoursAsThePlainFormDoes) {
     expectPlainPicks({30, 1000, illuminant("D65"), {{0.5, 0.5, 0.5}, {0.5, 0.5, 0.5}}});
 }
 
-TEST(FarthestPoints, PicksMoreColoursThanCandidatesAsThePlainFormDoes) {
-    for (int const steps : {1, 2, 3, 4})
-        expectPlainPicks({steps, 100, illuminant("D50"), {{0, 0, 0}, {1, 1, 1}}});
+TEST(FarthestPoints, PicksOfAFineGridAsThePlainFormDoes) {
+    expectPlainPicks({100, 30, illuminant("D50"), {{0, 0, 0}, {0, 0, 0}}});
+    expectPlainPicks({64, 200, illuminant("D65"), {{1, 1, 1}, {0.2, 0.4, 0.3}}});
 }
 
-TEST(FarthestPoints, PicksNothingFromNothing) {
-    std::vector<LabPoint> const black = rgbToLab(illuminant("D50"), 1, {{0, 0, 0}});
-    EXPECT_TRUE(FarthestPoints(illuminant("D50"), RgbGrid(0)).pick(black, 5).empty());
-    EXPECT_TRUE(FarthestPoints(illuminant("D50"), RgbGrid(3)).pick(black, 0).empty());
+/// A colour that is nearly too far from a box to matter does so in this one.
+TEST(FarthestPoints, PicksAFifthOfAGridAsThePlainFormDoes) {
+    expectPlainPicks({25, 3000, illuminant("D50"), {{0, 0, 0}}});
+}
+
+TEST(FarthestPoints, PicksAllPointsInTheOrderOfThePlainForm) {
+    for (int const steps : {1, 2, 3, 4, 7, 11, 13}) {
+        std::size_t const points = static_cast<std::size_t>(steps * steps * steps);
+        expectPlainPicks({steps, points + 10, illuminant("D50"), {{0, 0, 0}, {1, 1, 1}}});
+    }
+}
+
+TEST(FarthestPoints, PicksNothingOnceEveryPointIsTaken) {
+    FarthestPoints points(illuminant("D50"), RgbGrid(2), 8);
+    for (int taken = 0; taken < 8; ++taken)
+        EXPECT_TRUE(points.pick());
+    EXPECT_FALSE(points.pick());
+}
+
+/// Of 2,146,689,000 points; one pass over them would take half a minute.
+TEST(FarthestPoints, PicksFromTheLargestGrid) {
+    constexpr int Steps = 1290;
+    constexpr std::size_t Last = Steps - 1;
+    auto const picks = picksExpecting(10, {Steps, 10, illuminant("D50"), {{0, 0, 0}}});
+    EXPECT_EQ(picks[0], Last * Steps) << "green";
+    EXPECT_EQ(picks[1], Last) << "blue";
+    EXPECT_EQ(picks[2], Last * Steps * Steps) << "red";
+}
+
+/// Where all points tie, not all are looked at.
+TEST(FarthestPoints, PicksFromTheLargestGridWhateverTheBackground) {
+    for (double const background : {NotANumber, Infinity, 1e30}) {
+        auto const picks = picksExpecting(
+            3, {1290, 3, illuminant("D65"), {{background, 0, 0}, {0, background, 0}}});
+        EXPECT_EQ(picks[0], 0) << background;
+    }
+}
+
+TEST(SquaredDistance, AddsTheLightnessToTheFirstAxisAndThenTheSecond) {
+    EXPECT_EQ(prism::squaredDistance(1.0, 1e8, 1.0), 1e16) << "each one is rounded away";
+    EXPECT_EQ(prism::squaredDistance(1.0, 1.0, 1e8), 1e16 + 2.0);
 }
 
 TEST(RgbGrid, VariesRedSlowestAndMultipliesByTheRoundedStep) {

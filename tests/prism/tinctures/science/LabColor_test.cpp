@@ -95,7 +95,7 @@ protected:
     static LabPoint point(double percent) {
         double rgb[3]{};
         rgb[GetParam().channel] = percent;
-        return LabConversion(light(GetParam().light))(rgb[0], rgb[1], rgb[2]);
+        return linearToLab(selected(light(GetParam().light)), {rgb[0], rgb[1], rgb[2]});
     }
 
     /// The term of the component in the point: of X and Z by what differs from
@@ -183,7 +183,7 @@ TEST(LabColor, FollowsItsStepsToTheLastBit) {
                 {{0.4124, 0.3576, 0.1805}, {0.2126, 0.7152, 0.0722}, {0.0193, 0.1192, 0.9505}},
                 {0.010521110608435826, 0.01, 0.009184170164304804},
                 {0.8417362319999999, 0.8855999999999999, 0.9642678479999999}}}) {
-        LabConversion const convert(light(each.word));
+        StandardIlluminant const& chosen = selected(light(each.word));
         for (double const red : {0.0, 0.7, 31.0, 99.9})
             for (double const green : {0.1, 1.3, 47.0, 100.0})
                 for (double const blue : {0.0, 0.9, 12.5, 88.0}) {
@@ -195,7 +195,7 @@ TEST(LabColor, FollowsItsStepsToTheLastBit) {
                         f[i] = xyz > each.threshold[i] ? std::cbrt(t)
                                                        : 7.787 * t + 0.13793103448275862;
                     }
-                    LabPoint const point = convert(red, green, blue);
+                    LabPoint const point = linearToLab(chosen, {red, green, blue});
                     EXPECT_EQ(point.L, 116.0 * f[1] - 16.0);
                     EXPECT_EQ(point.a, (f[0] - f[1]) * 500.0);
                     EXPECT_EQ(point.b, (f[1] - f[2]) * 200.0);
