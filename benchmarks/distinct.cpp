@@ -1,5 +1,6 @@
 /// The colours that are far apart, beside the plain form of their selection.
 #include "benchmarks/groups.hpp"
+#include "prism/tinctures/science/FarthestPoints.hpp"
 #include "prism/tinctures/science/plainFarthestPoints.hpp"
 
 namespace benchmarks {
