@@ -143,7 +143,10 @@ ProcessResult runProcess(fs::path const& program, std::vector<std::string> const
     Streams streams{folder / "in", folder / "out", folder / "err"};
     if (!redirection.out.empty())
         streams.out = redirection.out;
-    std::ofstream(streams.in, std::ios::binary) << input;
+    if (!redirection.in.empty())
+        streams.in = redirection.in;
+    else
+        std::ofstream(streams.in, std::ios::binary) << input;
     ProcessResult result;
     result.status = runToEnd(program, arguments, streams);
     if (redirection.out.empty())

@@ -18,9 +18,11 @@ struct ProcessResult {
     std::vector<std::string> errLines() const;
 };
 
-/// Where the streams of a process lead instead of being caught; empty: caught.
+/// Where the streams of a process lead instead of being caught, and what it reads
+/// instead of the given input; empty: caught, and the input.
 struct Redirection {
-    std::filesystem::path out;
+    std::filesystem::path out = {};
+    std::filesystem::path in = {};
 };
 
 /// Runs a program with arguments in UTF-8 to its end, with the given bytes as

@@ -15,6 +15,14 @@ Progress::~Progress() {
         std::fprintf(stderr, "\r%*s\r", static_cast<int>(label_.size()) + 6, "");
 }
 
+void Progress::begin() {
+    if (!visible_)
+        return;
+    shown_ = 0;
+    std::fprintf(stderr, "\r%s ...", label_.c_str());
+    std::fflush(stderr);
+}
+
 void Progress::show(double part) {
     int const percent = static_cast<int>(100.0 * clampToUnit(part));
     if (!visible_ || percent == shown_)

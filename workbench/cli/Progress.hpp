@@ -14,6 +14,8 @@ public:
     Progress& operator=(Progress const&) = delete;
     ~Progress();
 
+    /// Shows that there is work whose end nobody can foretell.
+    void begin();
     /// Shows the part that is done, from 0 to 1.
     void show(double part);
 

@@ -5,11 +5,11 @@
 
 #include "workbench/cli/Progress.hpp"
 #include "workbench/cli/commands.hpp"
+#include "workbench/cli/files.hpp"
 #include "workbench/cli/numbers.hpp"
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/data/paint.hpp"
-#include "workbench/picture/png.hpp"
 #include "workbench/session/MapObject.hpp"
 
 namespace workbench {
@@ -39,7 +39,7 @@ struct Arguments {
     std::vector<std::string> settings;
     std::optional<std::string> range;
     int band = 1;
-    std::string file;
+    std::filesystem::path file;
 };
 
 /// Reads "0,1000".
@@ -67,13 +67,16 @@ void run(SessionOptions const& common, Arguments const& given) {
     if (given.range)
         range = readRange(*given.range);
     std::unique_ptr<DataGrid> const grid = openGrid(given.grid, given.band);
+    std::vector<std::filesystem::path> inputs = grid->files();
+    inputs.push_back(common.plugin);
+    checkOutput(given.file, inputs);
     checkPaintable(*grid, given.grid);
+    OutputFiles output({given.file});
     Session const session(common);
     MapObject const subject(session, given.key, given.settings);
     if (!range)
         range = rangeOf(*grid, given.grid, shownAs("measuring the data"));
-    Image const image = paint(*grid, subject.map(), *range, shownAs("painting"));
-    writePng(given.file, image);
+    output.write(given.file, paint(*grid, subject.map(), *range, shownAs("painting")));
 }
 
 }  // namespace
@@ -94,7 +97,7 @@ void addColor(CLI::App& program, SessionOptions const& common) {
     command->add_option("--band", given->band, "The band of the data, from 1 on")
         ->type_name("N")
         ->capture_default_str();
-    command->add_option("-o", given->file, "The picture to write")->type_name("FILE")->required();
+    addFile(*command, "-o", given->file, "The picture to write")->required();
     command->footer(readsGrids() ? Examples : std::string(Examples) + NoGdal);
     command->callback([&common, given] { run(common, *given); });
 }

@@ -1,10 +1,11 @@
 /// `telmbench gallery`: all maps on one page.
-#include <cstdio>
 #include <filesystem>
 
 #include "workbench/cli/Progress.hpp"
 #include "workbench/cli/commands.hpp"
-#include "workbench/common/errors.hpp"
+#include "workbench/cli/files.hpp"
+#include "workbench/cli/report.hpp"
+#include "workbench/common/paths.hpp"
 #include "workbench/gallery/collect.hpp"
 #include "workbench/gallery/write.hpp"
 #include "workbench/platform/StandardOutput.hpp"
@@ -29,9 +30,7 @@ are replaced, all others are left alone.)";
 /// that there is no line of progress yet.
 std::vector<Exhibit> collect(SessionOptions const& common) {
     Session const session(common);
-    return exhibitsOf(session, [](std::string const& remark) {
-        std::fprintf(stderr, "telmbench: %s\n", remark.c_str());
-    });
+    return exhibitsOf(session, [](std::string const& remark) { report(remark); });
 }
 
 std::vector<fs::path> write(std::vector<Exhibit> const& exhibits, fs::path const& folder) {
@@ -40,13 +39,11 @@ std::vector<fs::path> write(std::vector<Exhibit> const& exhibits, fs::path const
                         [&](double part) { progress.show(part); });
 }
 
-void run(SessionOptions const& common, std::string const& folder) {
-    if (folder.empty())
-        throw CallError("the folder to write has no name; -o DIR names it");
+void run(SessionOptions const& common, fs::path const& folder) {
     StandardOutput output(true);
     std::vector<Exhibit> const exhibits = collect(common);
     for (fs::path const& file : write(exhibits, folder))
-        output.write(fs::path(file).make_preferred().string() + "\n");
+        output.write(textOf(fs::path(file).make_preferred()) + "\n");
 }
 
 }  // namespace
@@ -54,8 +51,8 @@ void run(SessionOptions const& common, std::string const& folder) {
 void addGallery(CLI::App& program, SessionOptions const& common) {
     CLI::App* const command = program.add_subcommand(
         "gallery", "Show all maps on one page, with their parameters, curves and pictures");
-    auto const folder = std::make_shared<std::string>();
-    command->add_option("-o", *folder, "The folder to write, which is made if it is missing")
+    auto const folder = std::make_shared<fs::path>();
+    addFile(*command, "-o", *folder, "The folder to write, which is made if it is missing")
         ->type_name("DIR")
         ->required();
     command->footer(Examples);

@@ -1,11 +1,10 @@
 /// `telmbench lookup`: the colours of single values.
-#include <iostream>
-#include <iterator>
 #include <sstream>
 
 #include "workbench/cli/commands.hpp"
 #include "workbench/cli/json.hpp"
 #include "workbench/common/errors.hpp"
+#include "workbench/common/files.hpp"
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/platform/StandardOutput.hpp"
 #include "workbench/session/MapObject.hpp"
@@ -42,9 +41,8 @@ double valueOf(std::string const& text, std::string const& where) {
 }
 
 /// All values on standard input, which blanks and line ends divide.
-void readStandardInput(std::vector<double>& values) {
-    std::string const input{std::istreambuf_iterator<char>(std::cin), {}};
-    std::istringstream words(input);
+void appendStandardInput(std::vector<double>& values) {
+    std::istringstream words(readStandardInput());
     std::size_t position = 0;
     for (std::string word; words >> word;)
         values.push_back(
@@ -57,10 +55,9 @@ std::vector<double> readValues(std::vector<std::string> const& texts) {
     for (std::string const& text : texts) {
         ++position;
         if (text == "-")
-            readStandardInput(values);
+            appendStandardInput(values);
         else
-            values.push_back(valueOf(text.substr(text.starts_with(' ') ? 1 : 0),
-                                     "value " + std::to_string(position)));
+            values.push_back(valueOf(text, "value " + std::to_string(position)));
     }
     return values;
 }

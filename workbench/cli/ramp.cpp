@@ -2,9 +2,8 @@
 #include "workbench/picture/ramp.hpp"
 
 #include "workbench/cli/commands.hpp"
+#include "workbench/cli/files.hpp"
 #include "workbench/cli/numbers.hpp"
-#include "workbench/common/paths.hpp"
-#include "workbench/picture/png.hpp"
 #include "workbench/session/MapObject.hpp"
 
 namespace workbench {
@@ -24,15 +23,17 @@ struct Arguments {
     std::string key;
     std::vector<std::string> settings;
     std::string size = "512x64";
-    std::string file;
+    std::filesystem::path file;
 };
 
 void run(SessionOptions const& common, Arguments const& given) {
     Size const size = readSize(given.size);
+    checkOutput(given.file, {common.plugin});
+    OutputFiles output({given.file});
     Session const session(common);
     MapObject const subject(session, given.key, given.settings);
-    writePng(pathOf(given.file),
-             rampOf(sample(subject.map(), static_cast<std::size_t>(size.width)), size.height));
+    output.write(given.file,
+                 rampOf(sample(subject.map(), static_cast<std::size_t>(size.width)), size.height));
 }
 
 }  // namespace
@@ -46,7 +47,7 @@ void addRamp(CLI::App& program, SessionOptions const& common) {
     command->add_option("--size", given->size, "Width and height in pixels, 1 to 16384 each")
         ->type_name("WxH")
         ->capture_default_str();
-    command->add_option("-o", given->file, "The picture to write")->type_name("FILE")->required();
+    addFile(*command, "-o", given->file, "The picture to write")->required();
     command->footer(Examples);
     command->callback([&common, given] { run(common, *given); });
 }

@@ -1,8 +1,8 @@
 /// `telmbench run`: a saved network executed, and its picture.
-#include <cstdio>
-
 #include "workbench/cli/Progress.hpp"
 #include "workbench/cli/commands.hpp"
+#include "workbench/cli/files.hpp"
+#include "workbench/cli/report.hpp"
 #include "workbench/common/errors.hpp"
 #include "workbench/common/files.hpp"
 #include "workbench/common/inQuotes.hpp"
@@ -11,7 +11,6 @@
 #include "workbench/network/Network.hpp"
 #include "workbench/nodes/NodeCreators.hpp"
 #include "workbench/nodes/Viewer.hpp"
-#include "workbench/picture/png.hpp"
 #include "workbench/session/Session.hpp"
 
 namespace workbench {
@@ -35,27 +34,29 @@ same, and the exit status is 1.)";
 constexpr std::size_t MaxComplaints = 50;
 
 struct Arguments {
-    std::string network;
+    std::filesystem::path network;
     std::vector<std::string> settings;
     std::string viewer = "Viewer1";
-    std::string picture;
-    std::string saved;
+    std::filesystem::path picture;
+    std::filesystem::path saved;
 };
 
-void checkArguments(Arguments const& given) {
+void checkArguments(Arguments const& given, std::filesystem::path const& plugin) {
     if (given.picture.empty() && given.saved.empty())
         throw CallError("nothing to do; -o FILE draws the picture, --save FILE writes the network");
-    if (given.picture == given.saved)
+    if (given.picture == given.saved || isSameFile(given.picture, given.saved))
         throw CallError("the picture and the network cannot both be written to " +
-                        inQuotes(given.picture));
+                        inQuotes(textOf(given.picture), 1000));
+    checkOutput(given.picture, {given.network, plugin});
+    checkOutput(given.saved, {plugin});
 }
 
-Script readScript(std::string const& file) {
-    std::string const text = readFile(pathOf(file));
+Script readScript(std::filesystem::path const& file) {
+    std::string const text = readFile(file);
     try {
         return Script::read(text);
     } catch (WorkError const& error) {
-        throw WorkError("the network " + inQuotes(file) + " " + error.what());
+        throw WorkError("the network " + inQuotes(textOf(file), 1000) + " " + error.what());
     }
 }
 
@@ -67,12 +68,12 @@ void applySetting(Network& network, std::string const& setting) {
     network.set(setting.substr(0, sign), setting.substr(sign + 1));
 }
 
-void report(std::string const& file, std::vector<Complaint> const& complaints) {
+void reportAll(std::filesystem::path const& file, std::vector<Complaint> const& complaints) {
     for (std::size_t i = 0; i < complaints.size() && i < MaxComplaints; ++i)
-        std::fprintf(stderr, "telmbench: %s\n", reportOf(pathOf(file), complaints[i]).c_str());
+        report(reportOf(file, complaints[i]));
     if (complaints.size() > MaxComplaints)
-        std::fprintf(stderr, "telmbench: %s: and %zu more like these\n", file.c_str(),
-                     complaints.size() - MaxComplaints);
+        report(textOf(file) + ": and " + std::to_string(complaints.size() - MaxComplaints) +
+               " more like these");
 }
 
 Orlo::ObjectPtr findViewer(Network const& network, std::string const& name) {
@@ -80,8 +81,11 @@ Orlo::ObjectPtr findViewer(Network const& network, std::string const& name) {
     Orlo::ObjectPtr const object = network.findObject(name);
     if (object && isViewer(*object))
         return object;
-    throw CallError("there is no viewer " + inQuotes(name) +
-                    suggestion(name, viewers, "; the network has none of that name"));
+    std::string const problem = "there is no viewer " + inQuotes(name) +
+                                suggestion(name, viewers, "; the network has none of that name");
+    if (anyFailure(network.complaints()))
+        throw WorkError(problem);  // the line that makes it may be one that failed
+    throw CallError(problem);
 }
 
 Image draw(Network& network, std::string const& viewer) {
@@ -91,21 +95,27 @@ Image draw(Network& network, std::string const& viewer) {
 }
 
 void run(SessionOptions const& common, Arguments const& given) {
-    checkArguments(given);
+    checkArguments(given, common.plugin);
     Script const script = readScript(given.network);
+    OutputFiles output({given.picture, given.saved});
     Session const session(common);
     NodeCreators const kinds;
     Network network;
     network.execute(script);
-    report(given.network, network.complaints());
+    reportAll(given.network, network.complaints());
     for (std::string const& setting : given.settings)
         applySetting(network, setting);
-    if (!given.picture.empty())
-        writePng(pathOf(given.picture), draw(network, given.viewer));
+    std::vector<Complaint> faults;
+    if (!given.picture.empty()) {
+        Image const picture = draw(network, given.viewer);
+        faults = network.faultsBehind(given.viewer);
+        reportAll(given.network, faults);
+        output.write(given.picture, picture);
+    }
     if (!given.saved.empty())
-        writeFile(pathOf(given.saved), network.save());
-    if (anyFailure(network.complaints()))
-        throw WorkError("parts of " + inQuotes(given.network) +
+        output.write(given.saved, network.save());
+    if (anyFailure(network.complaints()) || anyFailure(faults))
+        throw WorkError("parts of " + inQuotes(textOf(given.network), 1000) +
                         " could not be carried out; all the rest was");
 }
 
@@ -115,7 +125,7 @@ void addRun(CLI::App& program, SessionOptions const& common) {
     CLI::App* const command =
         program.add_subcommand("run", "Carry a saved network out, draw it, save it");
     auto const given = std::make_shared<Arguments>();
-    command->add_option("NETWORK", given->network, "The saved network")->required();
+    addFile(*command, "NETWORK", given->network, "The saved network")->type_name("")->required();
     command
         ->add_option("--set", given->settings,
                      "Set a value, as OBJECT.NAME=TEXT or OBJECT.NAME{CONTEXT}=TEXT")
@@ -123,9 +133,8 @@ void addRun(CLI::App& program, SessionOptions const& common) {
     command->add_option("--viewer", given->viewer, "The viewer to draw")
         ->type_name("NAME")
         ->capture_default_str();
-    command->add_option("-o", given->picture, "The picture to write")->type_name("FILE");
-    command->add_option("--save", given->saved, "Write the network as it then stands")
-        ->type_name("FILE");
+    addFile(*command, "-o", given->picture, "The picture to write");
+    addFile(*command, "--save", given->saved, "Write the network as it then stands");
     command->footer(Examples);
     command->callback([&common, given] { run(common, *given); });
 }

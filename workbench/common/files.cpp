@@ -1,6 +1,7 @@
 #include "workbench/common/files.hpp"
 
 #include <cerrno>
+#include <cstdio>
 #include <fstream>
 #include <iterator>
 #include <random>
@@ -27,11 +28,34 @@ std::string lastReason() {
     return errno != 0 ? std::generic_category().message(errno) : "the system gives no reason";
 }
 
-/// Where a symbolic link leads, so that the link survives.
-fs::path followed(fs::path const& file) {
+/// Where a symbolic link leads, so that the link survives, also one to what is
+/// not there yet.
+fs::path followed(fs::path file) {
+    constexpr int MostLinks = 40;  // as many as Linux follows
     std::error_code error;
-    fs::path const target = fs::is_symlink(file, error) ? fs::canonical(file, error) : file;
-    return error ? file : target;
+    if (fs::is_symlink(file, error) && fs::exists(file, error)) {
+        fs::path const target = fs::canonical(file, error);
+        return error ? file : target;  // a pipe has no name
+    }
+    for (int i = 0; i < MostLinks && fs::is_symlink(file, error); ++i) {
+        fs::path const target = fs::read_symlink(file, error);
+        if (error)
+            break;
+        file = file.parent_path() / target;  // an absolute target stands for itself
+    }
+    return file;
+}
+
+/// Whether somebody has taken away the right to write to a file that is there.
+/// The rights alone do not tell: they say yes to everybody's superior.
+bool isWriteProtected(fs::path const& file, fs::perms permissions) {
+    constexpr fs::perms Writable =
+        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    if ((permissions & Writable) == fs::perms::none)
+        return true;
+    errno = 0;
+    std::ofstream const opened(file, std::ios::binary | std::ios::in);
+    return !opened && (errno == EACCES || errno == EPERM || errno == EROFS);
 }
 
 /// A name beside the file that nobody else uses.
@@ -75,6 +99,29 @@ std::string readFile(fs::path const& file) {
     return bytes;
 }
 
+std::string readStandardInput() {
+    std::string bytes;
+    char block[4096];
+    errno = 0;
+    while (std::size_t const count = std::fread(block, 1, sizeof block, stdin))
+        bytes.append(block, count);
+    if (std::ferror(stdin) != 0)
+        throw WorkError("cannot read standard input: " + lastReason());
+    return bytes;
+}
+
+bool isSameFile(fs::path const& a, fs::path const& b) {
+    std::error_code error;
+    fs::path const first = followed(a);
+    fs::path const second = followed(b);
+    fs::file_status const status = fs::status(first, error);
+    if (fs::exists(status))
+        return fs::is_regular_file(status) && fs::equivalent(first, second, error) && !error;
+    fs::path const one = fs::weakly_canonical(fs::absolute(first, error), error);
+    fs::path const other = fs::weakly_canonical(fs::absolute(second, error), error);
+    return !error && one == other;
+}
+
 void writeFile(fs::path const& file, std::string_view bytes) {
     std::error_code ignored;
     fs::path const target = followed(file);
@@ -82,6 +129,8 @@ void writeFile(fs::path const& file, std::string_view bytes) {
     if (fs::is_directory(status))
         fail("write", file, "it is a folder");
     bool const direct = fs::exists(status) && !fs::is_regular_file(status);
+    if (fs::is_regular_file(status) && isWriteProtected(target, status.permissions()))
+        fail("write", file, "it is write-protected");
     fs::path const written = direct ? target : nameBeside(target);
     std::string reason = tryWrite(written, bytes);
     if (direct && reason.empty())

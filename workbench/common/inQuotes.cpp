@@ -11,22 +11,28 @@ std::size_t cutBefore(std::string_view text, std::size_t maxBytes) {
     return maxBytes;
 }
 
-std::string printable(char c) {
+void appendPrintable(std::string& result, char c) {
     constexpr char digits[] = "0123456789abcdef";
     auto const code = static_cast<unsigned char>(c);
     if (code >= 32 && code != 127)
-        return std::string(1, c);
-    return std::string("\\x") + digits[code / 16] + digits[code % 16];
+        result += c;
+    else
+        result += {'\\', 'x', digits[code / 16], digits[code % 16]};
 }
 
 }  // namespace
 
+std::string printable(std::string_view text) {
+    std::string result;
+    for (char const c : text)
+        appendPrintable(result, c);
+    return result;
+}
+
 std::string inQuotes(std::string_view text, std::size_t maxBytes) {
     bool const tooLong = text.size() > maxBytes;
-    std::string result = "'";
-    for (char const c : tooLong ? text.substr(0, cutBefore(text, maxBytes)) : text)
-        result += printable(c);
-    return result + (tooLong ? "...'" : "'");
+    std::string_view const shown = tooLong ? text.substr(0, cutBefore(text, maxBytes)) : text;
+    return "'" + printable(shown) + (tooLong ? "...'" : "'");
 }
 
 }  // namespace workbench

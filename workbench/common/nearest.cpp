@@ -14,6 +14,10 @@ std::string lowerCase(std::string text) {
     return text;
 }
 
+/// Longer ones are no names that somebody mistyped; to compare them would take a
+/// time that grows with the square of their length.
+constexpr std::size_t LongestWord = 256;
+
 /// How many letters must be put in, taken out, replaced or swapped with their
 /// neighbour to turn one word into the other.
 std::size_t editDistance(std::string const& a, std::string const& b) {
@@ -54,10 +58,13 @@ std::vector<std::string> nearest(std::string const& word, std::vector<std::strin
         std::size_t unlike;
         std::string const* word;
     };
+    if (word.size() > LongestWord)
+        return {};
     std::string const wanted = lowerCase(word);
     std::vector<Match> matches;
     for (std::string const& each : words)
-        if (auto const unlike = unlikeness(wanted, lowerCase(each)))
+        if (auto const unlike =
+                each.size() <= LongestWord ? unlikeness(wanted, lowerCase(each)) : std::nullopt)
             matches.push_back({*unlike, &each});
     std::ranges::stable_sort(matches, {}, &Match::unlike);
     std::vector<std::string> result;

@@ -1,9 +1,11 @@
 /// Grids of data out of files.
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace workbench {
 
@@ -21,6 +23,9 @@ public:
     /// Cells across and down, at least 1 each.
     virtual int width() const = 0;
     virtual int height() const = 0;
+
+    /// The files that the grid is read from, as far as the reader tells.
+    virtual std::vector<std::filesystem::path> files() const = 0;
 
     /// Reads `values.size() / width()` whole rows from row `first` on; a cell
     /// without data is NaN. Throws `WorkError` that names the file and the

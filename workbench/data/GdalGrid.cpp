@@ -1,6 +1,7 @@
 /// Grids read through GDAL: a library of its own, which `openGrid` loads.
 #include <cpl_conv.h>
 #include <cpl_error.h>
+#include <cpl_string.h>
 #include <gdal.h>
 
 #include <algorithm>
@@ -12,6 +13,7 @@
 
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
+#include "workbench/common/paths.hpp"
 #include "workbench/data/DataGrid.hpp"
 
 namespace workbench {
@@ -115,6 +117,15 @@ public:
 
     int width() const override { return GDALGetRasterBandXSize(band_); }
     int height() const override { return GDALGetRasterBandYSize(band_); }
+
+    std::vector<fs::path> files() const override {
+        char** const names = GDALGetFileList(dataset_.get());
+        std::vector<fs::path> all;
+        for (char** name = names; name != nullptr && *name != nullptr; ++name)
+            all.push_back(pathOf(*name));
+        CSLDestroy(names);
+        return all;
+    }
 
     void read(int first, std::span<double> values) override {
         Quiet const quiet;

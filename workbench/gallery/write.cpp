@@ -5,6 +5,7 @@
 #include "workbench/common/errors.hpp"
 #include "workbench/common/files.hpp"
 #include "workbench/common/inQuotes.hpp"
+#include "workbench/common/paths.hpp"
 #include "workbench/gallery/page.hpp"
 #include "workbench/picture/png.hpp"
 
@@ -17,10 +18,10 @@ namespace {
 constexpr int PictureHeight = 128;
 
 void makeFolder(fs::path const& folder) {
-    std::error_code error;
+    std::error_code error, ignored;
     fs::create_directories(folder, error);
-    if (!fs::is_directory(folder))
-        throw WorkError("cannot make the folder " + inQuotes(folder.string(), 1000) + ": " +
+    if (!fs::is_directory(folder, ignored))
+        throw WorkError("cannot make the folder " + inQuotes(textOf(folder), 1000) + ": " +
                         (error ? error.default_error_condition().message()
                                : std::string("there is a file of that name")));
 }

@@ -4,12 +4,13 @@
 #include <array>
 
 #include "host/values/VValue.hpp"
+#include "runtime/lattice/Catalogue.hpp"
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/common/nearest.hpp"
 #include "workbench/network/connect.hpp"
 #include "workbench/network/editScript.hpp"
-#include "workbench/nodes/Node.hpp"
+#include "workbench/nodes/HostObject.hpp"
 #include "workbench/nodes/Viewer.hpp"
 #include "workbench/nodes/hostObjects.hpp"
 #include "workbench/nodes/values.hpp"
@@ -85,6 +86,23 @@ void checkWritable(ValuePath const& path, string const& text) {
                         std::to_string(Script::MaxLineLength) + " bytes");
 }
 
+/// The heads of the last two sections, which programs write.
+bool isSectionHead(Line const& line) {
+    return std::holds_alternative<CommentLine>(line.meaning) &&
+           (line.text == "# Establish Connections" || line.text == "# Setup Objects");
+}
+
+/// What is wrong with an object, unless that is the fault of one that it reads.
+Fault faultOf(Orlo::VObject const& object) {
+    auto const* const node = dynamic_cast<Node const*>(&object);
+    if (node == nullptr || node->fault().reason.empty())
+        return {};
+    Orlo::SlotPtr const slot = node->slot(node->fault().parameter);
+    Orlo::ObjectPtr const provider(slot->provider());
+    auto const* const cause = dynamic_cast<Node const*>(provider.get());
+    return cause != nullptr && !cause->fault().reason.empty() ? Fault() : node->fault();
+}
+
 /// The value that stands in the pool itself, or without a pool the own one.
 Orlo::ValuePtr valueAt(Orlo::VParameter const& parameter, Orlo::PoolPtr const& pool) {
     return pool ? parameter.getLocalValue(pool, "", false) : parameter.ownValue();
@@ -143,21 +161,28 @@ void Network::execute(Script const& script) {
     script_ = script;
     complaints_.clear();
     missing_.clear();
+    failedInputs_.clear();
     for (Line const& line : script_.lines)
         execute(line);
     if (script_.endsOpen)
         complaints_.push_back({script_.lines.back().number, "",
                                "the last line has no line feed; is the file cut off?", false});
+    remarkOnContexts();
+    checkSetups();
     reportMissing();
 }
 
 void Network::execute(Line const& line) {
-    if (needsMissing(line.meaning))
+    if (needsMissing(line.meaning)) {
+        noteFailure(line.meaning);
         return;
+    }
+    line_ = line.number;
     try {
         std::visit([this](auto const& meaning) { apply(meaning); }, line.meaning);
     } catch (std::exception const& error) {
         complaints_.push_back({line.number, line.text, error.what()});
+        noteFailure(line.meaning);
         if (auto const* const creation = std::get_if<CreationLine>(&line.meaning))
             if (!objects_.contains(creation->object))
                 missing_.insert_or_assign(creation->object, Missing{line.number, 0});
@@ -191,14 +216,81 @@ void Network::reportMissing() {
     std::ranges::stable_sort(complaints_, {}, &Complaint::line);
 }
 
+/// Remembers an input that stays unconnected, of which nobody need hear twice.
+void Network::noteFailure(Meaning const& meaning) {
+    if (auto const* const connection = std::get_if<ConnectionLine>(&meaning))
+        failedInputs_.emplace(connection->object, connection->input);
+}
+
+void Network::remark(string const& text) {
+    complaints_.push_back({line_, "", text, false});
+}
+
+/// A value for a context holds in the viewer of that name, which may come behind
+/// the value.
+void Network::remarkOnContexts() {
+    std::vector<string> const known = viewers();
+    std::set<string> told(known.begin(), known.end());
+    for (Line const& line : script_.lines) {
+        auto const* const parameter = std::get_if<ParameterLine>(&line.meaning);
+        if (parameter == nullptr || parameter->context.empty() ||
+            !told.insert(parameter->context).second)
+            continue;
+        line_ = line.number;
+        remark("there is no viewer " + inQuotes(parameter->context) +
+               ", so that values for it are kept and change nothing" +
+               suggestion(parameter->context, known));
+    }
+}
+
+/// A saved network ends with a set-up line for each of its objects, so that one
+/// cut at the end of a line can be told by those that are missing.
+void Network::checkSetups() {
+    std::set<string> waiting;
+    for (auto const& [name, object] : objects_)
+        waiting.insert(name);
+    bool hasSections = false;
+    for (Line const& line : script_.lines) {
+        hasSections = hasSections || isSectionHead(line);
+        if (std::holds_alternative<SetupLine>(line.meaning))
+            waiting.erase(objectOf(line.meaning));
+    }
+    if (hasSections && !waiting.empty())
+        complaints_.push_back({script_.lines.back().number, "",
+                               std::to_string(waiting.size()) + " of the network's " +
+                                   std::to_string(objects_.size()) +
+                                   " objects are never set up, such as " +
+                                   inQuotes(*waiting.begin()) + "; is the file cut off?"});
+}
+
 void Network::apply(ExpectedLine const& line) {
-    if (!objects_.contains(line.object))
-        objects_[line.object] = makeHostObject(line.key, line.object, *this);
+    if (objects_.contains(line.object))
+        return;
+    bool const isOfCatalogue = !line.key.empty() && Orlo::findCreator(line.key);
+    Orlo::ObjectPtr const object = isOfCatalogue ? create(line.key, line.object, nullptr, *this)
+                                                 : makeHostObject(line.key, line.object, *this);
+    objects_[line.object] = object;
+    noteSight(object);
+}
+
+/// Cameras and viewers connect themselves when they come.
+void Network::noteSight(Orlo::ObjectPtr const& made) {
+    if (isViewer(*made)) {
+        viewers_.emplace_back(made);
+        dependencies_.read(*made);
+    } else if (made->slot("::view")) {
+        for (Orlo::WeakObjectPtr const& each : viewers_)
+            if (Orlo::ObjectPtr const viewer(each); viewer)
+                dependencies_.read(*viewer);
+    }
 }
 
 void Network::apply(DeletionLine const& line) {
+    if (Orlo::ObjectPtr const object = findObject(line.object))
+        dependencies_.forget(*object);
     objects_.erase(line.object);
     attributes_.erase(line.object);
+    kept_.erase(line.object);
     missing_.erase(line.object);
 }
 
@@ -213,9 +305,58 @@ void Network::apply(CreationLine const& line) {
 void Network::apply(ParameterLine const& line) {
     Orlo::ObjectPtr const subject = object(line.object);
     if (!subject->slot(line.name))
-        addKept(*subject, line.name, line.value);
-    setParameter(*subject, line.name, line.value,
-                 line.context.empty() ? Orlo::PoolPtr() : pool(line.context));
+        keep(*subject, line);
+    setText(*subject, line.name, line.value,
+            line.context.empty() ? Orlo::PoolPtr() : pool(line.context));
+}
+
+/// Adds a parameter that the object does not know, if it keeps such.
+void Network::keep(Orlo::VObject& subject, ParameterLine const& line) {
+    std::vector<string> const known = knownParameters(subject);
+    if (!addKept(subject, line.name, line.value))
+        return;
+    kept_[line.object].insert(line.name);
+    remarkOnKept(subject, line.name, known);
+}
+
+/// Says that a value changes nothing, unless that is how it should be: host
+/// objects keep much that no picture needs, and of them only a name that is nearly
+/// one of theirs looks like a slip.
+void Network::remarkOnKept(Orlo::VObject const& subject, string const& name,
+                           std::vector<string> const& known) {
+    string const near = suggestion(name, known);
+    bool const isOfHost = dynamic_cast<HostObject const*>(&subject) != nullptr;
+    if (!isOfHost || !near.empty())
+        remark(inQuotes(subject.Name()) + " has no parameter " + inQuotes(name) +
+               ", so that its value is kept and changes nothing" + near);
+}
+
+/// The inputs that an object reads, without those that it merely keeps.
+std::vector<string> Network::knownParameters(Orlo::VObject const& object) const {
+    std::vector<string> names = parameterNames(object);
+    if (auto const kept = kept_.find(object.Name()); kept != kept_.end())
+        std::erase_if(names, [&](string const& name) { return kept->second.contains(name); });
+    return names;
+}
+
+/// Sets a parameter. One that is merely kept takes any text: nobody knows what
+/// type it is meant to have, and its first text may have looked like a number by
+/// chance.
+void Network::setText(Orlo::VObject& subject, string const& name, string const& text,
+                      Orlo::PoolPtr const& context) {
+    try {
+        setParameter(subject, name, text, context);
+    } catch (CallError const&) {
+        auto const kept = kept_.find(subject.Name());
+        if (kept == kept_.end() || !kept->second.contains(name) ||
+            dependencies_.isRead(subject, *subject.slot(name)->ownParameter()))
+            throw;
+        std::vector<Orlo::PoolPtr> pools;
+        for (auto const& each : pools_)
+            pools.push_back(each.second);
+        keepAsText(subject, name, pools);
+        setParameter(subject, name, text, context);
+    }
 }
 
 void Network::apply(PropertyLine const& line) {
@@ -235,7 +376,7 @@ void Network::apply(AttributeLine const& line) {
 
 void Network::apply(ConnectionLine const& line) {
     Orlo::ObjectPtr const provider = object(line.provider);
-    connect(*object(line.object), line.input, *provider, line.parameter);
+    connect(*object(line.object), line.input, *provider, line.parameter, dependencies_);
 }
 
 void Network::apply(SetupLine const& line) {
@@ -245,6 +386,47 @@ void Network::apply(SetupLine const& line) {
 
 void Network::apply(UnreadableLine const& line) {
     throw CallError(line.reason);
+}
+
+// --- what a picture lacks
+
+std::vector<Complaint> Network::faultsBehind(string const& viewer) const {
+    std::vector<Complaint> faults;
+    std::set<Orlo::VObject const*> seen;
+    std::vector<Orlo::ObjectPtr> waiting{object(viewer)};
+    while (!waiting.empty()) {
+        Orlo::ObjectPtr const next = waiting.back();
+        waiting.pop_back();
+        if (!seen.insert(next.get()).second)
+            continue;
+        for (Orlo::SlotPtr const& slot : next->slots())
+            if (Orlo::ObjectPtr const provider(slot->provider()); provider)
+                waiting.push_back(provider);
+        Fault const fault = faultOf(*next);
+        if (!fault.reason.empty() && !failedInputs_.contains({next->Name(), fault.parameter}))
+            faults.push_back({lineOf(next->Name(), fault.parameter), "",
+                              inQuotes(next->Name()) + ": " + fault.reason});
+    }
+    std::ranges::stable_sort(faults, {}, &Complaint::line);
+    return faults;
+}
+
+/// The line that says last what a parameter is, or else the one that makes its
+/// object.
+std::size_t Network::lineOf(string const& object, string const& parameter) const {
+    std::size_t number = 0;
+    for (Line const& line : script_.lines) {
+        auto const* const value = std::get_if<ParameterLine>(&line.meaning);
+        auto const* const connection = std::get_if<ConnectionLine>(&line.meaning);
+        bool const concerns =
+            begins(line.meaning, object) ||
+            (value != nullptr && value->object == object && value->name == parameter) ||
+            (connection != nullptr && connection->object == object &&
+             connection->input == parameter);
+        if (concerns && line.number != 0)
+            number = line.number;
+    }
+    return number;
 }
 
 // --- changes
@@ -274,9 +456,10 @@ void Network::setValue(ValuePath const& path, string const& text) {
     Orlo::SlotPtr const slot = findParameter(*subject, path.name);
     Orlo::ValuePtr const present = valueAt(*slot->ownParameter(), context);
     Orlo::ValuePtr const before = present ? present->copy() : nullptr;
-    setParameter(*subject, path.name, text, context);
-    Orlo::ValuePtr const after = valueAt(*slot->ownParameter(), context);
-    if (!before || after->differs(before))
+    setText(*subject, path.name, text, context);
+    Orlo::ValuePtr const after =
+        valueAt(*findParameter(*subject, path.name)->ownParameter(), context);
+    if (!before || after->text() != before->text())
         writeValue(script_, path, after->text(), parameterNames(*subject));
 }
 

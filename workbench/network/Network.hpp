@@ -2,10 +2,13 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/object/VObject.hpp"
+#include "workbench/network/Dependencies.hpp"
 #include "workbench/network/Script.hpp"
 #include "workbench/network/report.hpp"
 
@@ -51,6 +54,11 @@ public:
     /// not parse; nothing has changed then.
     void set(std::string const& path, std::string const& text);
 
+    /// Why a viewer shows less than the script asks for, once it was drawn: what
+    /// is missing in the objects that it sees, and in those that they read, each
+    /// with the line concerned. What `complaints` tells already is left out.
+    std::vector<Complaint> faultsBehind(std::string const& viewer) const;
+
     /// The network as it now stands, as the text of a script.
     std::string save() const { return script_.write(); }
 
@@ -65,6 +73,10 @@ private:
     /// Whether the line needs an object that could not be made; counts it then.
     bool needsMissing(Meaning const& meaning);
     void reportMissing();
+    void noteFailure(Meaning const& meaning);
+    void remarkOnContexts();
+    void checkSetups();
+    void remark(std::string const& text);
 
     // One for each form of line; they throw what stands in their way.
     void apply(ExpectedLine const& line);
@@ -82,15 +94,28 @@ private:
     void apply(BannerLine const&) {}
     void apply(AnnouncementLine const&) {}
 
+    void noteSight(Orlo::ObjectPtr const& made);
+    void keep(Orlo::VObject& subject, ParameterLine const& line);
+    void remarkOnKept(Orlo::VObject const& subject, std::string const& name,
+                      std::vector<std::string> const& known);
+    std::vector<std::string> knownParameters(Orlo::VObject const& object) const;
+    void setText(Orlo::VObject& subject, std::string const& name, std::string const& text,
+                 Orlo::PoolPtr const& context);
+    std::size_t lineOf(std::string const& object, std::string const& parameter) const;
     void setAttribute(ValuePath const& path, std::string const& text);
     void setValue(ValuePath const& path, std::string const& text);
     Orlo::PoolPtr knownPool(std::string const& context);
 
     Script script_;
+    Dependencies dependencies_;
+    std::vector<Orlo::WeakObjectPtr> viewers_;
     std::map<std::string, Orlo::PoolPtr> pools_;
     std::map<std::string, Orlo::ObjectPtr> objects_;
     std::map<std::string, std::map<std::string, std::string>> attributes_;
     std::map<std::string, Missing> missing_;
+    std::map<std::string, std::set<std::string>> kept_;           ///< unknown parameters, by object
+    std::set<std::pair<std::string, std::string>> failedInputs_;  ///< object and input
+    std::size_t line_ = 0;                                        ///< the one that is executed
     std::vector<Complaint> complaints_;
 };
 

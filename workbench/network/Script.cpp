@@ -180,6 +180,10 @@ void checkScript(string_view text) {
         throw WorkError("is empty; a saved network begins with '" + string(FirstBanner) + "'");
     if (std::size_t const zero = text.find('\0'); zero != string_view::npos)
         throw WorkError("is no text: byte " + std::to_string(zero + 1) + " is zero");
+    if (text.starts_with("\xef\xbb\xbf"))
+        throw WorkError(
+            "begins with a byte order mark, which is no part of a saved network; save it as UTF-8 "
+            "without one");
     string_view const first = text.substr(0, text.find_first_of("\r\n"));
     if (!isFixed(first, FirstBanner))
         throw WorkError("is no saved network: its first line is " + inQuotes(first) + ", not '" +
@@ -297,6 +301,11 @@ struct TextOf {
 
 std::optional<string> textOf(Meaning const& meaning) {
     return std::visit(TextOf{}, meaning);
+}
+
+bool begins(Meaning const& meaning, string const& object) {
+    return objectOf(meaning) == object && (std::holds_alternative<CreationLine>(meaning) ||
+                                           std::holds_alternative<ExpectedLine>(meaning));
 }
 
 string objectOf(Meaning const& meaning) {

@@ -148,6 +148,9 @@ std::optional<std::string> textOf(Meaning const& meaning);
 /// if it is about none.
 std::string objectOf(Meaning const& meaning);
 
+/// Whether a line makes or expects the object.
+bool begins(Meaning const& meaning, std::string const& object);
+
 /// Reads `Camera.zoom{Viewer1}`; nothing if it has not that form.
 std::optional<ValuePath> valuePathOf(std::string_view text);
 

@@ -1,8 +1,5 @@
 #include "workbench/network/connect.hpp"
 
-#include <set>
-#include <vector>
-
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/common/nearest.hpp"
@@ -16,20 +13,6 @@ namespace {
 
 using Orlo::SlotPtr;
 using Orlo::VObject;
-
-/// Whether an object reads, by whatever way, what another provides.
-bool dependsOn(VObject const& consumer, VObject const& provider,
-               std::set<VObject const*>& visited) {
-    if (&consumer == &provider)
-        return true;
-    if (!visited.insert(&consumer).second)
-        return false;
-    for (SlotPtr const& slot : consumer.slots())
-        if (Orlo::ObjectPtr const next(slot->provider()); next)
-            if (dependsOn(*next, provider, visited))
-                return true;
-    return false;
-}
 
 std::string typeOf(SlotPtr const& slot) {
     Orlo::ValuePtr const value = slot->ownParameter()->DefaultValue();
@@ -79,15 +62,15 @@ SlotPtr findOutput(VObject const& consumer, SlotPtr const& input, VObject const&
 }  // namespace
 
 void connect(VObject& consumer, std::string const& input, VObject& provider,
-             std::string const& parameter) {
-    std::set<VObject const*> visited;
-    if (dependsOn(provider, consumer, visited))
+             std::string const& parameter, Dependencies& dependencies) {
+    if (dependencies.dependsOn(provider, consumer))
         throw CallError("this would close a cycle: " + inQuotes(provider.Name()) +
                         " itself depends on " + inQuotes(consumer.Name()));
     SlotPtr const slot = findInput(consumer, input);
     SlotPtr const output = findOutput(consumer, slot, provider, parameter);
     if (!consumer.connectSlots(slot, provider, output))
         throw CallError(inQuotes(consumer.Name()) + " does not take this connection");
+    dependencies.read(consumer);
 }
 
 }  // namespace workbench

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace workbench {
 
@@ -34,11 +35,18 @@ std::size_t rank(Words const& words, std::string const& word) {
     return static_cast<std::size_t>(std::ranges::find(words, word) - std::ranges::begin(words));
 }
 
-/// Whether the line that makes or expects the object.
-bool begins(Line const& line, std::string const& object) {
-    return objectOf(line.meaning) == object &&
-           (std::holds_alternative<CreationLine>(line.meaning) ||
-            std::holds_alternative<ExpectedLine>(line.meaning));
+/// The line that the living object of that name comes from, or none. A script may
+/// delete an object and make another of the name.
+std::optional<std::size_t> beginOf(Script const& script, std::string const& object) {
+    std::optional<std::size_t> begin;
+    for (std::size_t i = 0; i < script.lines.size(); ++i) {
+        Meaning const& meaning = script.lines[i].meaning;
+        if (!begin && begins(meaning, object))
+            begin = i;
+        else if (std::holds_alternative<DeletionLine>(meaning) && objectOf(meaning) == object)
+            begin.reset();
+    }
+    return begin;
 }
 
 /// Tells which lines of an object a new value stands behind.
@@ -99,20 +107,18 @@ void insertLine(Script& script, std::size_t at, Meaning const& meaning) {
 
 void writeValue(Script& script, ValuePath const& path, std::string const& value,
                 std::vector<std::string> const& parameterOrder) {
-    auto& lines = script.lines;
-    auto const present = std::find_if(lines.rbegin(), lines.rend(),
-                                      [&](Line& line) { return valueAt(line, path) != nullptr; });
-    if (present != lines.rend()) {
-        *valueAt(*present, path) = value;
-        present->text = *textOf(present->meaning);
+    auto const start = beginOf(script, path.object);
+    if (!start)
         return;
+    for (std::size_t i = script.lines.size() - 1; i > *start; --i) {
+        Line& line = script.lines[i];
+        if (std::string* const present = valueAt(line, path)) {
+            *present = value;
+            line.text = *textOf(line.meaning);
+            return;
+        }
     }
-    auto const begin = std::find_if(lines.rbegin(), lines.rend(),
-                                    [&](Line const& line) { return begins(line, path.object); });
-    if (begin == lines.rend())
-        return;
-    auto const start = static_cast<std::size_t>(lines.rend() - begin) - 1;
-    insertLine(script, indexFor(script, start, path.object, Order(path, parameterOrder)),
+    insertLine(script, indexFor(script, *start, path.object, Order(path, parameterOrder)),
                meaningFor(path, value));
 }
 

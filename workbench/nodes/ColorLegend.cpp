@@ -15,6 +15,7 @@ namespace {
 
 /// "position" is the lower left corner of the bar, "height" and "width" its
 /// size: fractions of the picture's. "bordercolor" is also that of the labels.
+/// Without a map only the frame is shown, which is a fault.
 class ColorLegend : public Node {
 public:
     using Node::Node;
@@ -26,7 +27,9 @@ public:
         position_.read(pool, style.position);
         height_.read(pool, style.height);
         width_.read(pool, style.width);
-        renderable_.publish(pool, std::make_shared<LegendBar>(colormap_.read(pool), style));
+        ColormapPtr const map = colormap_.read(pool);
+        setFault(map ? Fault() : Fault{"colormap", "there is no colour map to show"});
+        renderable_.publish(pool, std::make_shared<LegendBar>(map, style));
         return true;
     }
 

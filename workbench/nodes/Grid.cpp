@@ -1,5 +1,6 @@
 /// Takes a grid out of a bundle.
 #include "host/values/TypedSlot.hpp"
+#include "workbench/common/inQuotes.hpp"
 #include "workbench/nodes/Bundle.hpp"
 #include "workbench/nodes/HostObject.hpp"
 #include "workbench/nodes/Port.hpp"
@@ -13,7 +14,7 @@ namespace workbench {
 namespace {
 
 /// Provides the grid of the bundle at "spacetime" whose name is that of
-/// "gridname", before the at sign; nothing, and a warning, if there is none.
+/// "gridname", before the at sign; nothing, which is a fault, if there is none.
 class Grid : public Node {
 public:
     using Node::Node;
@@ -24,8 +25,9 @@ public:
         Identifier wanted;
         gridname_.read(pool, wanted);
         bool const found = bundle && bundle->hasGrid(wanted.name);
-        if (bundle && !found)
-            VActionNotifier::Warning(Name() + ": the bundle has no grid '" + wanted.name + "'");
+        setFault(!bundle  ? Fault{"spacetime", "there is no data set to take a grid from"}
+                 : !found ? Fault{"gridname", "the data set has no grid " + inQuotes(wanted.name)}
+                          : Fault());
         grid_.publish(
             pool, found ? std::make_shared<NamedGrid>(NamedGrid{bundle, wanted.name}) : GridPtr());
         return true;

@@ -1,8 +1,10 @@
 #include "workbench/nodes/Node.hpp"
 
+#include "host/pointers/Typename.hpp"
 #include "runtime/lattice/TypeRegistry.hpp"
 #include "workbench/nodes/Port.hpp"
 #include "workbench/nodes/values.hpp"
+#include "workbench/session/parameters.hpp"
 
 namespace workbench {
 
@@ -40,6 +42,24 @@ Orlo::SlotPtr addKept(Orlo::VObject& object, std::string const& name, std::strin
         return nullptr;
     bool ok = false;
     return Orlo::findSlotCreator(inferType(text))->create(&object, name, text, ok, 0);
+}
+
+void keepAsText(Orlo::VObject& object, std::string const& name,
+                std::vector<Orlo::PoolPtr> const& pools) {
+    std::string ownText;
+    std::vector<std::pair<Orlo::PoolPtr, std::string>> texts;
+    {
+        Orlo::ParameterPtr const before = object.slot(name)->ownParameter();
+        ownText = before->ownValue()->text();
+        for (Orlo::PoolPtr const& pool : pools)
+            if (Orlo::ValuePtr const value = before->getLocalValue(pool, "", false))
+                texts.emplace_back(pool, value->text());
+    }  // the values in the pools go with the parameter
+    bool ok = false;
+    Orlo::findSlotCreator(Nucleo::Typename(typeid(std::string)))
+        ->create(&object, name, ownText, ok, 0);
+    for (auto const& [pool, text] : texts)
+        setParameter(object, name, text, pool);
 }
 
 Orlo::SlotPtr addInput(Orlo::VObject& object, std::string const& name) {

@@ -2,10 +2,18 @@
 #pragma once
 
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "host/object/VObject.hpp"
 
 namespace workbench {
+
+/// Why an object shows or provides nothing, though it was asked to.
+struct Fault {
+    std::string parameter = {};  ///< what is wrong, or what is missing
+    std::string reason = {};     ///< empty: there is no fault
+};
 
 /// Base of the objects that the workbench itself provides: each takes parameters
 /// that it does not know and keeps them, so that nothing that a script sets is
@@ -26,9 +34,17 @@ public:
     bool allowParameterReplacement(Orlo::SlotPtr const& slot,
                                    Orlo::ParameterPtr const& replacement) const override;
 
+    /// What the last update found wrong. [updater]
+    Fault const& fault() const noexcept { return fault_; }
+
 protected:
     /// An input that takes any output; nobody reads it.
     Orlo::SlotPtr makeAnyInput(std::string const& name);
+    /// What the update that ends finds wrong. [updater]
+    void setFault(Fault fault) { fault_ = std::move(fault); }
+
+private:
+    Fault fault_;
 };
 
 /// Whether the object takes parameters that it does not know. [any]
@@ -40,6 +56,12 @@ bool keepsAll(Orlo::VObject const& object);
 /// the object keeps no unknown parameters, or has an output of that name.
 /// [host]
 Orlo::SlotPtr addKept(Orlo::VObject& object, std::string const& name, std::string const& text);
+
+/// Makes a kept parameter one that takes any text from now on; its values, also
+/// those in the pools, stay as their texts. What was connected to it is so no
+/// longer. [host]
+void keepAsText(Orlo::VObject& object, std::string const& name,
+                std::vector<Orlo::PoolPtr> const& pools);
 
 /// The input of that name, made now if the object takes one: `X.renderable` of
 /// a scene, any name of a host object. Empty if it takes none of that name.

@@ -22,7 +22,7 @@ namespace {
 /// | "transparency"     | how opaque the plane is: 1 hides all behind, 0 nothing |
 /// | "position"         | of the plane on that axis, in the units of the camera  |
 ///
-/// Without a field or without a map nothing is shown.
+/// Without a field or without a map nothing is shown, which is a fault.
 class OrthoSlice : public Node {
 public:
     using Node::Node;
@@ -31,6 +31,9 @@ public:
         PoolPtr const& pool = request.pool();
         FieldPtr const field = scalarfield_.read(pool);
         ColormapPtr const map = colormap_.read(pool);
+        setFault(!field ? Fault{"scalarfield", "there is no field to show"}
+                 : !map ? Fault{"colormap", "there is no colour map to show the field with"}
+                        : Fault());
         renderable_.publish(
             pool, field && map ? std::make_shared<Slice>(*field, map, options(pool)) : nullptr);
         return true;

@@ -6,6 +6,7 @@
 #include "workbench/nodes/HostObject.hpp"
 #include "workbench/nodes/Port.hpp"
 #include "workbench/nodes/kinds.hpp"
+#include "workbench/nodes/values.hpp"
 #include "workbench/scene/Hill.hpp"
 
 using namespace Orlo;
@@ -56,6 +57,7 @@ private:
 /// | "timesteps" | steps from time 0 to "tmax"; below 1 the hill never sinks     |
 /// | "tmax"      | the time at which the hill has sunk                           |
 /// | "a"         | the height of the hill                                        |
+/// | "Threads"   | nothing: the hill is computed without threads of its own      |
 ///
 /// Numbers outside their range count as the nearest inside; a size that is none
 /// counts as 1.
@@ -84,6 +86,7 @@ private:
     TypedSlot<int> timesteps_{this, "timesteps", 10, 0};
     TypedSlot<double> tmax_{this, "tmax", 1.0, 0};
     TypedSlot<double> a_{this, "a", 1.0, 0};
+    TypedSlot<Nothing> threads_{this, "Threads", Nothing(), 0};
     Output<BundlePtr> bundle_{this, "bundle"};
 };
 

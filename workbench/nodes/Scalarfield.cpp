@@ -1,5 +1,6 @@
 /// Takes a field out of a bundle.
 #include "host/values/TypedSlot.hpp"
+#include "workbench/common/inQuotes.hpp"
 #include "workbench/nodes/Bundle.hpp"
 #include "workbench/nodes/HostObject.hpp"
 #include "workbench/nodes/Port.hpp"
@@ -13,7 +14,7 @@ namespace workbench {
 namespace {
 
 /// Provides the field on the grid at "grid" whose name is that of "fieldname",
-/// before the at sign, as it is at the "time"; nothing, and a warning, if there
+/// before the at sign, as it is at the "time"; nothing, which is a fault, if there
 /// is none.
 class Scalarfield : public Node {
 public:
@@ -28,9 +29,10 @@ public:
         time_.read(pool, now);
         FieldPtr const field =
             grid ? grid->bundle->field(grid->name, wanted.name, now.value) : FieldPtr();
-        if (grid && !field)
-            VActionNotifier::Warning(Name() + ": there is no field '" + wanted.name +
-                                     "' on the grid '" + grid->name + "'");
+        setFault(!grid    ? Fault{"grid", "there is no grid to take a field from"}
+                 : !field ? Fault{"fieldname", "there is no field " + inQuotes(wanted.name) +
+                                                   " on the grid " + inQuotes(grid->name)}
+                          : Fault());
         field_.publish(pool, field);
         return true;
     }

@@ -19,6 +19,11 @@ Viewer::Viewer(std::string const& name) : HostObject(name) {
     makePresence();
 }
 
+bool Viewer::update(Orlo::VRequest& request, double) {
+    setFault(scene_.read(request.pool()) ? Fault() : Fault{"scene", "there is no scene to show"});
+    return true;
+}
+
 Shown Viewer::shown(Orlo::PoolPtr const& pool) const {
     Shown shown;
     Pair size{1.0 * shown.width, 1.0 * shown.height};
@@ -29,7 +34,7 @@ Shown Viewer::shown(Orlo::PoolPtr const& pool) const {
                         " pixels a side, such as 1046x650");
     shown.width = static_cast<int>(size.first);
     shown.height = static_cast<int>(size.second);
-    backgroundcolor_.read(pool, shown.background);
+    background_.read(pool, shown.background);
     shown.scene = scene_.read(pool);
     if (ViewPtr const view = camera_.read(pool))
         shown.view = *view;

@@ -10,10 +10,13 @@
 namespace workbench {
 
 /// Looks at the scene at "scene" as the camera at "camera" says; without a
-/// scene it sees its background, without a camera it looks as a new one.
+/// scene it sees its "background", which is a fault, without a camera it looks as
+/// a new one. "size" is that of its picture in pixels.
 class Viewer : public HostObject {
 public:
     explicit Viewer(std::string const& name);
+
+    bool update(Orlo::VRequest& request, double precision) override;
 
     /// What it shows with the values of the pool, once it was requested there.
     /// Throws `WorkError` if its size is none that a picture can have. [updater]
@@ -22,9 +25,9 @@ public:
 private:
     Input<ScenePtr> scene_{this, "scene"};
     Input<ViewPtr> camera_{this, "camera"};
-    Orlo::TypedSlot<Tessar::rgba_float_t> backgroundcolor_{
-        this, "backgroundcolor", Tessar::rgba_float_t(0.04F, 0.05F, 0.07F, 1.0F), 0};
     Orlo::TypedSlot<Pair> size_{this, "size", Pair{1.0 * Shown().width, 1.0 * Shown().height}, 0};
+    Orlo::TypedSlot<Tessar::rgba_float_t> background_{
+        this, "background", Tessar::rgba_float_t(0.04F, 0.05F, 0.07F, 1.0F), 0};
 };
 
 /// Whether the object is a viewer, of which `render` makes pictures. [any]

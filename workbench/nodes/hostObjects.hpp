@@ -19,7 +19,7 @@ namespace workbench {
 /// | object        | recognised by                          | parameters and inputs      |
 /// |---------------|----------------------------------------|----------------------------|
 /// | camera        | kind "CameraControl", name "Camera"    | see `View.hpp`             |
-/// | viewer        | name "Viewer" and digits               | "size", "backgroundcolor"; |
+/// | viewer        | name "Viewer" and digits               | "size", "background"; |
 /// |               |                                        | "camera", "scene"          |
 /// | scene         | name that ends with "Scene"            | "<member>.renderable"      |
 /// | chart selector| name "ChartSelector"                   | "::atlas"                  |

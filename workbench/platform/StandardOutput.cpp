@@ -9,6 +9,7 @@
 #if defined(_WIN32)
 #include <io.h>
 #else
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -27,6 +28,24 @@ constexpr auto* openDescriptor = _fdopen;
 constexpr auto* duplicate = dup;
 constexpr auto* duplicateTo = dup2;
 constexpr auto* openDescriptor = fdopen;
+#endif
+
+#if defined(_WIN32)
+
+bool leadsTo(std::filesystem::path const&, int) {
+    return false;
+}
+
+#else
+
+/// Whether a file is what a descriptor stands for.
+bool leadsTo(std::filesystem::path const& file, int descriptor) {
+    struct stat output {};
+    struct stat other {};
+    return fstat(descriptor, &output) == 0 && stat(file.c_str(), &other) == 0 &&
+           output.st_dev == other.st_dev && output.st_ino == other.st_ino;
+}
+
 #endif
 
 [[noreturn]] void fail() {
@@ -54,11 +73,19 @@ StandardOutput::~StandardOutput() {
     std::fclose(apart_);
 }
 
+bool StandardOutput::isAt(std::filesystem::path const& file) const {
+    return leadsTo(file, fileno(apart_ != nullptr ? apart_ : stdout));
+}
+
 void StandardOutput::write(std::string_view text) {
     std::FILE* const target = apart_ != nullptr ? apart_ : stdout;
     std::size_t const written = std::fwrite(text.data(), 1, text.size(), target);
     if (written != text.size() || std::fflush(target) != 0)
         fail();
+}
+
+bool isStandardOutput(std::filesystem::path const& file) {
+    return leadsTo(file, OutputDescriptor);
 }
 
 }  // namespace workbench

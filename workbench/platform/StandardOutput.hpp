@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdio>
+#include <filesystem>
 #include <string_view>
 
 namespace workbench {
@@ -21,11 +22,18 @@ public:
     StandardOutput& operator=(StandardOutput const&) = delete;
     ~StandardOutput();
 
+    /// Whether a file is the real standard output, as `isStandardOutput` says.
+    bool isAt(std::filesystem::path const& file) const;
+
     /// Writes results. Throws `WorkError` if they cannot be written.
     void write(std::string_view text);
 
 private:
     std::FILE* apart_ = nullptr;  ///< the real standard output, or null
 };
+
+/// Whether a file is the standard output of the program under another name, such
+/// as `/dev/stdout`. Systems without such names say no.
+bool isStandardOutput(std::filesystem::path const& file);
 
 }  // namespace workbench

@@ -10,11 +10,11 @@ namespace workbench {
 
 namespace fs = std::filesystem;
 
-namespace {
-
 #if defined(_WIN32)
 
+namespace {
 constexpr char const* Ending = ".exe";
+}  // namespace
 
 fs::path programFile() {
     std::wstring text(32768, L'\0');
@@ -24,15 +24,15 @@ fs::path programFile() {
 
 #else
 
+namespace {
 constexpr char const* Ending = "";
+}  // namespace
 
 fs::path programFile() {
     return fs::read_symlink("/proc/self/exe");
 }
 
 #endif
-
-}  // namespace
 
 fs::path fileBesideProgram(std::string const& name) {
     return programFile().parent_path() / pathOf(name);

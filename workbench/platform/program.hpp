@@ -6,6 +6,9 @@
 
 namespace workbench {
 
+/// The file of the program itself.
+std::filesystem::path programFile();
+
 /// A file that lies beside the program, in the same folder.
 std::filesystem::path fileBesideProgram(std::string const& name);
 

@@ -39,9 +39,11 @@ void drawLabels(Image& image, PixelRect const& bar, Interval const& domain, Rgba
         int const width = textWidth(label, scale);
         int const y = bar.bottom() - bar.height * i / parts - scale / 2;
         bool const onRight = width <= room;
-        image.fill(onRight ? bar.right() + scale : bar.left - scale - tick, y, tick, scale, color);
-        drawText(image, onRight ? bar.right() + 2 * tick : bar.left - 2 * tick - width,
-                 y - textHeight(scale) / 2 + 2 * scale, label, color, scale);
+        drawMarks(image,
+                  {{onRight ? bar.right() + scale : bar.left - scale - tick, y, tick, scale}},
+                  color, scale);
+        drawLabel(image, onRight ? bar.right() + 2 * tick : bar.left - 2 * tick - width,
+                  y - textHeight(scale) / 2 + 2 * scale, label, color, scale);
     }
 }
 
@@ -55,11 +57,11 @@ void LegendBar::drawOver(Image& image) const {
     if (bar.width < 1 || bar.height < 1)
         return;
     Rgba8 const border = opaque(style_.bordercolor);
-    drawFrame(image, bar, textScale(image), border);
-    if (!map_)
-        return;
-    drawColors(image, bar, *map_);
-    drawLabels(image, bar, domainOf(*map_), border);
+    if (map_) {
+        drawLabels(image, bar, domainOf(*map_), border);
+        drawColors(image, bar, *map_);
+    }
+    drawFrame(image, bar, textScale(image), border);  // over the seams of the marks
 }
 
 }  // namespace workbench

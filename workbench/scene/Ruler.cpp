@@ -44,17 +44,19 @@ void Ruler::drawOver(Image& image) const {
         return;
     int const line = box.bottom() - textHeight(scale) - 2 * scale;
     Rgba8 const color = opaque(style_.color);
-    image.fill(box.left, line, box.width + scale, scale, color);
+    std::vector<PixelRect> marks{{box.left, line, box.width + scale, scale}};
     int const parts = labelParts(range_, box.width, scale);
     for (int i = 0; i <= MinorMarks * parts; ++i) {
         int const height = (i % MinorMarks == 0 ? 8 : 4) * scale;
-        image.fill(box.left + offset(box.width, i, MinorMarks * parts), line - height, scale,
-                   height, color);
+        marks.push_back(
+            {box.left + offset(box.width, i, MinorMarks * parts), line - height, scale, height});
     }
+    drawMarks(image, marks, color, scale);
     for (int i = 0; i <= parts; ++i) {
         std::string const text = label(range_, i, parts);
         int const middle = box.left + offset(box.width, i, parts);
-        drawText(image, middle - textWidth(text, scale) / 2, line + 3 * scale, text, color, scale);
+        drawLabel(image, middle - textWidth(text, scale) / 2, line + 3 * scale, text, color,
+                  scale);
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "workbench/picture/Image.hpp"
 #include "workbench/scene/geometry.hpp"
@@ -34,6 +35,13 @@ std::string labelText(double value);
 
 /// The value of mark `i` of marks 0 to `parts` between two values.
 double markValue(double min, double max, int i, int parts);
+
+/// A text that can be read on any picture: it has a seam around it, black about
+/// light colours and white about dark ones.
+void drawLabel(Image& image, int x, int y, std::string const& text, Rgba8 color, int scale);
+
+/// Marks with such a seam around all of them together.
+void drawMarks(Image& image, std::vector<PixelRect> const& marks, Rgba8 color, int scale);
 
 /// A frame of that thickness around a rectangle.
 void drawFrame(Image& image, PixelRect const& inner, int thickness, Rgba8 color);

@@ -1,8 +1,11 @@
 #include "workbench/session/PluginFile.hpp"
 
 #include <string>
+#include <system_error>
 
+#include "workbench/common/inQuotes.hpp"
 #include "workbench/common/paths.hpp"
+#include "workbench/platform/libraryFile.hpp"
 #include "workbench/platform/program.hpp"
 
 namespace workbench {
@@ -14,21 +17,28 @@ namespace fs = std::filesystem;
 constexpr char ExportName[] = "TELM_API_2024_MAR_06__prism_tinctures";
 
 std::string nameOf(fs::path const& file) {
-    return "the plug-in '" + textOf(file) + "'";
+    return "the plug-in " + inQuotes(textOf(file), 1000);
 }
 
 /// The absolute path of a file that is there.
 fs::path found(fs::path const& file) {
-    fs::path const path = fs::absolute(file);
-    if (fs::is_directory(path))
+    std::error_code error;
+    fs::path const path = fs::absolute(file, error);
+    fs::file_status const status = fs::status(path, error);
+    if (fs::is_directory(status))
         throw PluginError(nameOf(file) + " is a folder; --plugin FILE names the library itself");
-    if (!fs::is_regular_file(path))
+    if (error && status.type() != fs::file_type::not_found)
+        throw PluginError(nameOf(file) +
+                          " cannot be reached: " + error.default_error_condition().message());
+    if (!fs::is_regular_file(status))
         throw PluginError(nameOf(file) + " does not exist; --plugin FILE names another");
     return path;
 }
 
 std::unique_ptr<Library> load(fs::path const& path, fs::path const& file) {
     try {
+        if (std::string const problem = libraryProblem(path); !problem.empty())
+            throw LibraryError(problem);
         return std::make_unique<Library>(path);
     } catch (LibraryError const& error) {
         throw PluginError(nameOf(file) + " cannot be loaded as a library: " + error.what());

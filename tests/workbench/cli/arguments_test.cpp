@@ -54,4 +54,37 @@ TEST(Arguments, APluginMayLieInAFolderWithAnyName) {
               results({"lookup", "Hypsometric", "0"}));
 }
 
+TEST(Arguments, TheHelpOfACommandShowsTheCommonOptions) {
+    for (char const* const command : {"catalogue", "describe", "lookup", "ramp", "run"}) {
+        std::string const help = joined(results({command, "--help"}));
+        EXPECT_NE(help.find("Options of every command:\n  --plugin FILE"), std::string::npos)
+            << help;
+        EXPECT_NE(help.find("\n  --verbosity N"), std::string::npos) << help;
+    }
+}
+
+TEST(Arguments, NegativeNumbersAreNoOptions) {
+    Lines const expected = results({"lookup", "Hypsometric", "nan", "1", "-1"});
+    EXPECT_EQ(results({"lookup", "Hypsometric", "nan", "1", "--", "-1"}), expected);
+    EXPECT_EQ(results({"lookup", "Hypsometric", "--", "nan", "1", "-1"}), expected);
+    EXPECT_EQ(telmbench({"lookup", "Hypsometric", "--", "--json"}).errLines(),
+              Lines{"telmbench: value 1, '--json', is no number within the range of a double, "
+                    "such as 0.5, -1e-3, 0x1p-4, nan, inf or -inf"});
+    EXPECT_EQ(telmbench({"catalogue", "-5"}).errLines(),
+              Lines{"telmbench: there is no option '-5'; 'telmbench catalogue --help' tells how to "
+                    "call it"});
+}
+
+TEST(Arguments, AFileMayBeNamedLikeANumber) {
+    TemporaryFolder const folder;
+    ProcessResult const result =
+        telmbench({"ramp", "Glow", "-o", "-5", "--plugin", textOf(folder / "none")});
+    EXPECT_EQ(result.status, 1) << "the name is taken, and the plug-in is missed";
+    std::filesystem::path const before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.path());
+    EXPECT_EQ(results({"ramp", "Glow", "-o", "-5"}), Lines{});
+    std::filesystem::current_path(before);
+    EXPECT_EQ(folder.names(), Lines{"-5"});
+}
+
 }  // namespace

@@ -12,12 +12,6 @@ using namespace tests;
 constexpr int WorkFailed = 1;
 constexpr int CallWrong = 2;
 
-#if defined(_WIN32)
-constexpr char NoLibraryAtAll[] = "it is no 64-bit library of this system";
-#else
-constexpr char NoLibraryAtAll[] = "{folder}/text.telm: file too short";
-#endif
-
 struct FailureCase {
     char const* rule;
     Lines arguments;  ///< {folder} stands for a folder, {beside} for that of the program
@@ -37,8 +31,16 @@ FailureCase const pluginCases[] = {
     {"a file that is no library",
      {"--plugin", "{folder}/text.telm", "catalogue"},
      WorkFailed,
-     std::string("the plug-in '{folder}/text.telm' cannot be loaded as a library: ") +
-         NoLibraryAtAll},
+     "the plug-in '{folder}/text.telm' cannot be loaded as a library: it is no 64-bit library of "
+     "this system"},
+    {"a name with control characters",
+     {"--plugin", "{folder}/a\x1b[31m", "catalogue"},
+     WorkFailed,
+     "the plug-in '{folder}/a\\x1b[31m' does not exist; --plugin FILE names another"},
+    {"no name",
+     {"--plugin", "", "catalogue"},
+     CallWrong,
+     "--plugin is given the empty text, which names no file"},
     {"a library without the export",
      {"--plugin", "{beside}/no_plugin.telm", "catalogue"},
      WorkFailed,
@@ -159,6 +161,25 @@ FailureCase const pictureCases[] = {
      "cannot write '{folder}': it is a folder"},
 };
 
+FailureCase const overwritingCases[] = {
+    {"the plug-in by its picture",
+     {"--plugin", "{folder}/text.telm", "ramp", "Glow", "-o", "{folder}/../{name}/text.telm"},
+     CallWrong,
+     "'{folder}/../{name}/text.telm' would be written over '{folder}/text.telm', which is read and "
+     "is the same file; name another file to write"},
+    {"the plug-in by the picture of a network",
+     {"--plugin", "{folder}/text.telm", "run", "{folder}/none.telm", "-o", "{folder}/text.telm"},
+     CallWrong,
+     "'{folder}/text.telm' would be written over '{folder}/text.telm', which is read and is the "
+     "same file; name another file to write"},
+    {"the plug-in by the network",
+     {"--plugin", "{folder}/text.telm", "run", "{folder}/none.telm", "--save",
+      "{folder}/text.telm"},
+     CallWrong,
+     "'{folder}/text.telm' would be written over '{folder}/text.telm', which is read and is the "
+     "same file; name another file to write"},
+};
+
 FailureCase const callCases[] = {
     {"nothing", {}, CallWrong, "no command is given; 'telmbench --help' lists the commands"},
     {"an unknown command",
@@ -210,7 +231,10 @@ void expectFailures(FailureCase const (&cases)[Count]) {
         TemporaryFolder const folder;
         workbench::writeFile(folder / "text.telm", "no library\n");
         auto const filledIn = [&](std::string const& text) {
-            return replaced(replaced(text, "{folder}", textOf(folder.path())), "{beside}", beside);
+            std::string const name = textOf(folder.path().filename());
+            return replaced(
+                replaced(replaced(text, "{folder}", textOf(folder.path())), "{beside}", beside),
+                "{name}", name);
         };
         Lines arguments = c.arguments;
         std::ranges::transform(arguments, arguments.begin(), filledIn);
@@ -236,6 +260,9 @@ TEST(Failures, OfValues) {
 }
 TEST(Failures, OfPictures) {
     expectFailures(pictureCases);
+}
+TEST(Failures, OfOutputsThatAreRead) {
+    expectFailures(overwritingCases);
 }
 TEST(Failures, OfCalls) {
     expectFailures(callCases);
@@ -263,12 +290,80 @@ TEST(Failures, ALineEndInAnArgumentStaysInTheLine) {
               Lines{"telmbench: there is no entry 'a\\x0ab'; 'telmbench catalogue' lists them"});
 }
 
+/// The plug-in beside the program, changed.
+std::string pluginBytes() {
+    return workbench::readFile(programBeside("telmbench").parent_path() / "prism_tinctures.telm");
+}
+
+/// What the program says of a plug-in file of these bytes.
+Lines complaintsOfPlugin(std::string const& bytes) {
+    TemporaryFolder const folder;
+    workbench::writeFile(folder / "p.telm", bytes);
+    ProcessResult const result = telmbench({"--plugin", textOf(folder / "p.telm"), "catalogue"});
+    EXPECT_EQ(result.status, WorkFailed);
+    std::string const start = "telmbench: the plug-in '" + textOf(folder / "p.telm") +
+                              "' cannot be loaded as a library: ";
+    Lines lines = result.errLines();
+    for (std::string& line : lines)
+        if (line.starts_with(start))
+            line.erase(0, start.size());
+    return lines;
+}
+
+TEST(Failures, APluginThatIsCutOffIsRefusedWhereverItIsCut) {
+    std::string const whole = pluginBytes();
+    for (std::size_t const part : {2U, 3U, 10U, 50U}) {
+        std::size_t const size = whole.size() / part;
+        Lines const lines = complaintsOfPlugin(whole.substr(0, size));
+        ASSERT_EQ(lines.size(), 1U);
+        EXPECT_TRUE(lines[0].starts_with("it is cut off: " + std::to_string(size) + " bytes are "))
+            << lines[0];
+    }
+    EXPECT_EQ(complaintsOfPlugin(whole.substr(0, 40)),
+              Lines{"it is no 64-bit library of this system"});
+}
+
+TEST(Failures, APluginForAnotherProcessorIsRefused) {
+    std::string bytes = pluginBytes();
+    std::size_t const machine =
+        bytes[0] == 'M' ? static_cast<unsigned char>(bytes[0x3c]) + 4U : 18U;  // PE and ELF
+    bytes[machine] = '\x01';
+    EXPECT_EQ(complaintsOfPlugin(bytes), Lines{"it was built for another processor"});
+}
+
+TEST(Failures, AWriteProtectedPictureIsLeftAlone) {
+    TemporaryFolder const folder;
+    std::filesystem::path const picture = folder / "old.png";
+    workbench::writeFile(picture, "old");
+    std::filesystem::permissions(picture, std::filesystem::perms::owner_read);
+    ProcessResult const result = telmbench({"ramp", "Glow", "-o", textOf(picture)});
+    EXPECT_EQ(result.status, WorkFailed);
+    EXPECT_EQ(result.errLines(),
+              Lines{"telmbench: cannot write '" + textOf(picture) + "': it is write-protected"});
+    EXPECT_EQ(workbench::readFile(picture), "old");
+    std::filesystem::permissions(picture, std::filesystem::perms::owner_all);
+}
+
 #if !defined(_WIN32)
+
+TEST(Failures, APluginThatCannotBeReachedIsToldInOwnWords) {
+    std::string const name(300, 'x');  // longer than a file system's names
+    EXPECT_EQ(telmbench({"--plugin", name, "catalogue"}).errLines(),
+              Lines{"telmbench: the plug-in '" + name + "' cannot be reached: File name too long"});
+}
+
+TEST(Failures, StandardInputThatCannotBeRead) {
+    ProcessResult const result =
+        runProcess(programBeside("telmbench"), {"lookup", "Hypsometric", "-"}, {}, {.in = "/"});
+    EXPECT_EQ(result.status, WorkFailed);
+    EXPECT_EQ(result.errLines(), Lines{"telmbench: cannot read standard input: Is a directory"});
+}
 
 TEST(Failures, ResultsThatCannotBeWritten) {
     for (Lines const& arguments :
          {Lines{"catalogue"}, Lines{"catalogue", "--json"}, Lines{"lookup", "Hypsometric", "0"},
-          Lines{"describe", "Hypsometric"}}) {
+          Lines{"describe", "Hypsometric"}, Lines{"--help"}, Lines{"ramp", "--help"},
+          Lines{"--version"}}) {
         ProcessResult const result =
             runProcess(programBeside("telmbench"), arguments, {}, {.out = "/dev/full"});
         EXPECT_EQ(result.status, WorkFailed);

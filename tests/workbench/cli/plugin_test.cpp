@@ -2,6 +2,7 @@
 #include <nlohmann/json.hpp>
 
 #include "tests/workbench/cli/telmbench.hpp"
+#include "workbench/common/files.hpp"
 
 namespace {
 
@@ -34,6 +35,22 @@ TEST(TalkOfAPlugin, GoesToStandardErrorWithAMessageOfTheProgram) {
               "telmbench: value 1, 'many', is no number within the range of a double, such as 0.5, "
               "-1e-3, 0x1p-4, nan, inf or -inf");
 }
+
+#if !defined(_WIN32)
+
+TEST(TalkOfAPlugin, StaysOutOfAPictureOnStandardOutput) {
+    TemporaryFolder const folder;
+    std::string const plugin = fileBeside("talking_plugin.telm");
+    telmbench({"--plugin", plugin, "ramp", "Talker", "-o", textOf(folder / "file.png")});
+    for (char const* const name : {"/dev/stdout", "/dev/fd/1", "/proc/self/fd/1"}) {
+        ProcessResult const result = telmbench({"--plugin", plugin, "ramp", "Talker", "-o", name});
+        EXPECT_EQ(result.status, 0) << name;
+        EXPECT_EQ(result.out, workbench::readFile(folder / "file.png")) << name;
+        EXPECT_EQ(result.errLines().front(), "talk of the load") << name;
+    }
+}
+
+#endif
 
 /// The messages that tell of loading, work and unloading, without the entries'
 /// own ones between the first and the last of their kind.

@@ -18,6 +18,7 @@
 namespace {
 
 namespace fs = std::filesystem;
+using workbench::isSameFile;
 using workbench::readFile;
 using workbench::textOf;
 using workbench::WorkError;
@@ -86,6 +87,31 @@ TEST(Files, AFolderWhoseNameIsAFileIsNoPlaceToWrite) {
     EXPECT_EQ(readFile(folder / "file"), "old");
 }
 
+TEST(Files, AWriteProtectedFileIsLeftAlone) {
+    tests::TemporaryFolder const folder;
+    fs::path const file = folder / "file";
+    writeFile(file, "old");
+    fs::permissions(file, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+    EXPECT_EQ(errorOf([&] { writeFile(file, "new"); }),
+              "cannot write '" + textOf(file) + "': it is write-protected");
+    EXPECT_EQ(readFile(file), "old");
+    EXPECT_EQ(folder.names(), std::vector<std::string>{"file"});
+    fs::permissions(file, fs::perms::owner_all);
+}
+
+TEST(Files, TwoNamesOfOneFileAreTheSame) {
+    tests::TemporaryFolder const folder;
+    fs::create_directory(folder / "inner");
+    writeFile(folder / "file", "x");
+    writeFile(folder / "other", "x");
+    EXPECT_TRUE(isSameFile(folder / "file", folder.path() / "." / "inner" / ".." / "file"));
+    EXPECT_FALSE(isSameFile(folder / "file", folder / "other"));
+    EXPECT_FALSE(isSameFile(folder / "file", folder / "new"));
+    EXPECT_TRUE(isSameFile(folder / "new", folder.path() / "." / "new")) << "nor is it there";
+    EXPECT_FALSE(isSameFile(folder / "new", folder / "newer"));
+    EXPECT_TRUE(isSameFile("new", fs::current_path() / "new"));
+}
+
 #if !defined(_WIN32)
 
 /// Lets no file of this process grow beyond a size, for as long as it lives.
@@ -130,6 +156,29 @@ TEST(Files, ALinkStaysALink) {
     writeFile(folder / "link", "new");
     EXPECT_TRUE(fs::is_symlink(folder / "link"));
     EXPECT_EQ(readFile(folder / "target"), "new");
+}
+
+TEST(Files, ALinkToWhatIsNotThereYetStaysALink) {
+    tests::TemporaryFolder const folder;
+    fs::create_symlink("second", folder / "first");
+    fs::create_symlink(folder / "target", folder / "second");
+    writeFile(folder / "first", "new");
+    EXPECT_TRUE(fs::is_symlink(folder / "first"));
+    EXPECT_TRUE(fs::is_symlink(folder / "second"));
+    EXPECT_EQ(readFile(folder / "target"), "new");
+}
+
+TEST(Files, LinksLeadToTheSameFileAsItsOwnName) {
+    tests::TemporaryFolder const folder;
+    writeFile(folder / "file", "x");
+    fs::create_symlink("file", folder / "link");
+    fs::create_hard_link(folder / "file", folder / "twin");
+    fs::create_symlink("new", folder / "dangling");
+    EXPECT_TRUE(isSameFile(folder / "file", folder / "link"));
+    EXPECT_TRUE(isSameFile(folder / "twin", folder / "file"));
+    EXPECT_TRUE(isSameFile(folder / "dangling", folder / "new"));
+    EXPECT_FALSE(isSameFile(folder / "dangling", folder / "file"));
+    EXPECT_FALSE(isSameFile("/dev/null", "/dev/null")) << "it holds nothing to lose";
 }
 
 TEST(Files, AReplacedFileKeepsItsPermissions) {

@@ -27,4 +27,9 @@ TEST(InQuotes, AnyTextFitsIntoALine) {
         EXPECT_EQ(workbench::inQuotes(c.text), c.expected) << c.rule;
 }
 
+TEST(Printable, LeavesLettersAndShowsControlCharacters) {
+    EXPECT_EQ(workbench::printable("h\xc3\xb6he 'x'"), "h\xc3\xb6he 'x'");
+    EXPECT_EQ(workbench::printable("a\x1b[31m\nb\x7f"), "a\\x1b[31m\\x0ab\\x7f");
+}
+
 }  // namespace

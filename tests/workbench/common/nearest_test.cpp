@@ -54,4 +54,12 @@ TEST(Suggestion, ReadsAsTheEndOfAMessage) {
     EXPECT_EQ(workbench::suggestion("Watermelon", {"Ort"}, "; none is near"), "; none is near");
 }
 
+TEST(Nearest, AnEndlessWordIsLikeNoOther) {
+    using workbench::nearest;
+    std::string const longest(256, 'x');
+    EXPECT_EQ(nearest(longest + "y", {longest}), Words{});
+    EXPECT_EQ(nearest(longest, {longest + "y"}), Words{});
+    EXPECT_EQ(nearest(longest.substr(1), {longest}), Words{longest});
+}
+
 }  // namespace

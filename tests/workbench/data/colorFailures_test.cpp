@@ -154,4 +154,31 @@ TEST(ColorFailures, LeaveAnOldPictureAsItWas) {
     EXPECT_EQ(workbench::readFile(folder / "old.png"), "old");
 }
 
+TEST(ColorFailures, NoFileOfTheGridIsOverwritten) {
+    TemporaryFolder const folder;
+    writeTwoGrids(folder / "two.nc");
+    workbench::writeFile(folder / "own.asc", asciiGrid({{0, 1}, {2, 3}}));
+    std::filesystem::create_symlink("own.asc", folder / "link.asc");
+    struct {
+        std::string data;
+        char const* output;
+        char const* file;
+    } const table[] = {
+        {textOf(folder / "own.asc"), "own.asc", "own.asc"},
+        {textOf(folder / "own.asc"), "link.asc", "own.asc"},
+        {textOf(folder / "link.asc"), "own.asc", "own.asc"},
+        {"NETCDF:\"" + textOf(folder / "two.nc") + "\":depth", "two.nc", "two.nc"},
+    };
+    for (auto const& each : table) {
+        std::string const before = workbench::readFile(folder / each.file);
+        ProcessResult const result =
+            telmbench({"color", "Glow", each.data, "-o", textOf(folder / each.output)});
+        EXPECT_EQ(result.status, CallWrong) << each.data;
+        ASSERT_EQ(result.errLines().size(), 1U) << each.data;
+        EXPECT_NE(result.errLines()[0].find("would be written over"), std::string::npos)
+            << result.errLines()[0];
+        EXPECT_EQ(workbench::readFile(folder / each.file), before) << each.data;
+    }
+}
+
 }  // namespace

@@ -198,6 +198,18 @@ TEST_F(Gallery, IsTheSameEachTimeAndReplacesItsOwnFilesOnly) {
     EXPECT_EQ(folder.names().size(), catalogue_->size() + 2);
 }
 
+TEST(GalleryElsewhere, WritesIntoAFolderWithAnyName) {
+    TemporaryFolder const folder;
+    std::filesystem::path const maps = folder / "m\xc3\xa4rz \xe5\x9c\xb0\xe5\x9b\xb3";
+    ProcessResult const result =
+        telmbench({"--plugin", fileBeside("odd_plugin.telm"), "gallery", "-o", textOf(maps)});
+    EXPECT_EQ(result.status, 0);
+    ASSERT_FALSE(result.outLines().empty());
+    EXPECT_EQ(workbench::pathOf(result.outLines().back()), maps / "index.html");
+    EXPECT_TRUE(std::filesystem::exists(maps / "index.html"));
+    EXPECT_EQ(folder.names().size(), 1U);
+}
+
 TEST(GalleryOfAnotherPlugin, ReadsNothingOfItsTexts) {
     TemporaryFolder const folder;
     ProcessResult const result = telmbench(
@@ -241,7 +253,7 @@ TEST(GalleryFailure, NamesTheCulpritAndWritesNothing) {
     std::string const fresh = (folder / "fresh").string();
     Case const cases[] = {
         {{"gallery"}, 2, "-o is required; 'telmbench gallery --help' tells how to call it"},
-        {{"gallery", "-o", ""}, 2, "the folder to write has no name; -o DIR names it"},
+        {{"gallery", "-o", ""}, 2, "-o is given the empty text, which names no file"},
         {{"gallery", "-o", file}, 1, "cannot make the folder '" + file + "': "},
         {{"gallery", "-o", below}, 1, "cannot make the folder '" + below + "': "},
         {{"--plugin", file, "gallery", "-o", fresh}, 1, "the plug-in '" + file + "'"},

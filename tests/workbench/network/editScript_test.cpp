@@ -103,6 +103,16 @@ TEST(WriteValue, TakesTheLastOfSeveralLinesOfOnePlace) {
               "# TelmScript Preliminiary Experimental \nCreate/Thing A\nA.b=\"1\"\nA.b=\"3\"\n");
 }
 
+TEST(WriteValue, LeavesTheLinesOfAnObjectAloneThatWasDeleted) {
+    std::string const first =
+        "# TelmScript Preliminiary Experimental \nCreate/Thing A\nA.b=\"1\"\nA.c=\"1\"\n";
+    std::string const second = "<>A\nCreate/Thing A\nA.c=\"2\"\n";
+    Script script = Script::read(first + second + "A()\n");
+    writeValue(script, *valuePathOf("A.b"), "3", {"b", "c"});
+    writeValue(script, *valuePathOf("A.c"), "4", {"b", "c"});
+    EXPECT_EQ(script.write(), first + "<>A\nCreate/Thing A\nA.b=\"3\"\nA.c=\"4\"\nA()\n");
+}
+
 TEST(WriteValue, LeavesOutAnObjectThatTheScriptDoesNotHold) {
     Script script = Script::read(Text);
     writeValue(script, *valuePathOf("Stranger.b"), "3", {"b"});

@@ -4,9 +4,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 #include "tests/support/PluginTest.hpp"
 #include "workbench/common/errors.hpp"
 #include "workbench/common/files.hpp"
+#include "workbench/nodes/HostObject.hpp"
 #include "workbench/nodes/NodeCreators.hpp"
 #include "workbench/nodes/Viewer.hpp"
 
@@ -109,7 +112,7 @@ TEST_F(NetworkTest, SetsParametersAndKeepsWhatHostObjectsDoNotKnow) {
         "Display/OrthoSlice Slice\nSlice.mode=\"Smooth{Discrete}{Interpolated}{Smooth}\"\n"
         "Slice.transparency=\"0.5\"\nSlice.remark=\"{1,2,3}\"\n"
         "# Expecting procedurally object:  Keeper\nKeeper.flags=\" -Orthographic\"\n");
-    EXPECT_THAT(reports(network_), IsEmpty());
+    EXPECT_FALSE(anyFailure(network_.complaints()));
     EXPECT_EQ(valueOf(network_, "Slice.mode"), "Smooth{Discrete}{Interpolated}{Smooth}");
     EXPECT_EQ(valueOf(network_, "Slice.transparency"), "0.5");
     EXPECT_EQ(valueOf(network_, "Slice.remark"), "{1,2,3}");
@@ -119,12 +122,13 @@ TEST_F(NetworkTest, SetsParametersAndKeepsWhatHostObjectsDoNotKnow) {
 TEST_F(NetworkTest, SetsAValueForAContextApartFromThePlainOne) {
     execute(
         "# Expecting Implicitly created object: \n# CameraControl Camera\n"
-        "Camera.zoom{Viewer1}=\"30\"\nCamera.zoom=\"60\"\nCamera.new{Viewer1}=\"1\"\n");
+        "# Expecting procedurally object:  Viewer1\n"
+        "Camera.zoom{Viewer1}=\"30\"\nCamera.zoom=\"60\"\nCamera.aperture{Viewer1}=\"1\"\n");
     EXPECT_THAT(reports(network_), IsEmpty());
     EXPECT_EQ(valueOf(network_, "Camera.zoom{Viewer1}"), "30");
     EXPECT_EQ(valueOf(network_, "Camera.zoom"), "60");
     EXPECT_EQ(valueOf(network_, "Camera.zoom{Viewer2}"), "60");
-    EXPECT_EQ(valueOf(network_, "Camera.new{Viewer1}"), "1");
+    EXPECT_EQ(valueOf(network_, "Camera.aperture{Viewer1}"), "1");
 }
 
 TEST_F(NetworkTest, SetsTypedPropertiesOnParameters) {
@@ -194,7 +198,6 @@ FailingLine const FailingLines[] = {
      "the text ' sideways' is no value of the parameter 'options'"},
     {"Colormaps/Hypsometric M\nM.colormap=\"1\"\n", "'colormap' of 'M' is an output"},
     {"Create/GlobalTime T\nT.value=\"now\"\n", "the text 'now' is no value"},
-    {"Create/GlobalTime T\nT.speed=\"1\"\nT.speed=\"fast\"\n", "net:5: 'T.speed=\"fast\"': "},
     {"Create/GlobalTime T\nT.valve.double(max)=1\n",
      "'T' has no parameter 'valve'; did you mean 'value'?"},
     {"Create/GlobalTime T\nT.value.float(max)=1\n",
@@ -281,6 +284,141 @@ TEST(Report, IsOneLineWhateverTheTextHolds) {
     EXPECT_EQ(text.find_first_of("\n\x1b"), std::string::npos);
 }
 
+// --- remarks
+
+struct Remark {
+    char const* lines;   ///< from line 3 on
+    char const* report;  ///< the one remark; empty: none
+};
+
+TEST_F(NetworkTest, RemarksOnValuesThatChangeNothing) {
+    std::string const camera =
+        "# Expecting Implicitly created object: \n# CameraControl Camera\n"
+        "# Expecting procedurally object:  Viewer1\n";
+    std::string const cameraWith[] = {
+        camera + "Camera.zoom{Vewer1}=\"30\"\n", camera + "Camera.zoon=\"30\"\n",
+        camera + "Camera.speed=\"30\"\n", camera + "Camera.zoom{Viewer1}=\"30\"\n",
+        camera + "Camera.x{Z}=\"1\"\nCamera.x{Z}=\"2\"\n"};
+    Remark const table[] = {
+        {"Display/OrthoSlice S\nS.orientaton=\"X\"\n",
+         "net:4: 'S' has no parameter 'orientaton', so that its value is kept and changes nothing; "
+         "did you mean 'orientation'?"},
+        {"Display/OrthoSlice S\nS.banana=\"X\"\nS.banana=\"Y\"\n",
+         "net:4: 'S' has no parameter 'banana', so that its value is kept and changes nothing"},
+        {cameraWith[0].c_str(),
+         "net:6: there is no viewer 'Vewer1', so that values for it are kept and change nothing; "
+         "did you mean 'Viewer1'?"},
+        {cameraWith[1].c_str(),
+         "net:6: 'Camera' has no parameter 'zoon', so that its value is kept and changes nothing; "
+         "did you mean 'zoom'?"},
+        {cameraWith[2].c_str(), ""},
+        {cameraWith[3].c_str(), ""},
+        {cameraWith[4].c_str(),
+         "net:6: there is no viewer 'Z', so that values for it are kept and change nothing"},
+        {"# Expecting procedurally object:  Keeper\nKeeper.a=\"1\"\nKeeper.aa=\"1\"\n", ""},
+    };
+    for (Remark const& each : table) {
+        Network network;
+        network.execute(Script::read("# TelmScript Preliminiary Experimental \n# VERBOSE\n" +
+                                      std::string(each.lines)));
+        EXPECT_FALSE(anyFailure(network.complaints())) << each.lines;
+        EXPECT_EQ(reports(network), *each.report != '\0' ? std::vector<std::string>{each.report}
+                                                         : std::vector<std::string>())
+            << each.lines;
+    }
+}
+
+TEST_F(NetworkTest, TakesAnyTextForAValueThatItMerelyKeeps) {
+    execute(
+        "# Expecting procedurally object:  Viewer1\n# Expecting procedurally object:  K\n"
+        "K.speed{Viewer1}=\"2\"\nK.speed=\"1\"\nK.speed=\"fast\"\n");
+    EXPECT_THAT(reports(network_), IsEmpty());
+    EXPECT_EQ(valueOf(network_, "K.speed"), "fast");
+    EXPECT_EQ(valueOf(network_, "K.speed{Viewer1}"), "2") << "that of the context stays";
+    EXPECT_EQ(refusal("K.speed", "slow"), "");
+    EXPECT_THAT(network_.save(), HasSubstr("K.speed=\"slow\""));
+}
+
+TEST_F(NetworkTest, KeepsTheTypeOfAKeptValueThatAnotherObjectReads) {
+    execute(
+        "# Expecting procedurally object:  K\nK.time=\"0[0,1]@0.1\"\nStrand/Scalarfield F\n"
+        "F.time=>K.time\n");
+    EXPECT_THAT(reports(network_), IsEmpty());
+    EXPECT_THAT(refusal("K.time", "noon"), HasSubstr("'noon' is no value"));
+    EXPECT_EQ(valueOf(network_, "K.time"), "0[0,1]@0.1");
+}
+
+TEST_F(NetworkTest, MakesAnExpectedObjectOfTheCatalogueByItsKey) {
+    execute(
+        "# Expecting Implicitly created object: \n# Create/GlobalTime T\n"
+        "# Expecting Implicitly created object: \n# Colormaps/Hypsometric M\n"
+        "# Expecting Implicitly created object: \n# Create/Webserver W\n");
+    EXPECT_THAT(reports(network_), IsEmpty());
+    EXPECT_EQ(network_.object("T")->type_key(), "Create/GlobalTime");
+    EXPECT_EQ(network_.object("M")->type_key(), "Colormaps/Hypsometric");
+    EXPECT_EQ(network_.object("W")->type_key(), "") << "the host brings it along";
+}
+
+// --- what a picture lacks
+
+constexpr char Chain[] =
+    "# Expecting procedurally object:  Viewer1\n# Expecting procedurally object:  DefaultScene\n"
+    "CreateBundle/RadialScalarField B\nB.gridsize=\"4\"\nStrand/Grid G\n"
+    "G.gridname=\"AnalyticUniformGrid@AnalyticUniformGrid\"\nStrand/Scalarfield F\n"
+    "F.fieldname=\"radialfield@radialfield\"\nColormaps/Hypsometric M\nDisplay/OrthoSlice S\n"
+    "Legend/ColorLegend L\nViewer1.size=\"8x8\"\nViewer1.scene=>DefaultScene\n"
+    "DefaultScene.S.renderable=>S\nDefaultScene.L.renderable=>L\nS.scalarfield=>F\n"
+    "S.colormap=>M\nL.colormap=>M\nF.grid=>G\nG.spacetime=>B\n";
+
+struct Break {
+    char const* line;   ///< of the chain, left out or replaced
+    char const* by;     ///< may be empty
+    char const* fault;  ///< the one that is told; empty: none
+};
+
+TEST_F(NetworkTest, TellsWhereTheWayOfTheDataIsBroken) {
+    Break const table[] = {
+        {"", "", ""},
+        {"Viewer1.scene=>DefaultScene\n", "", "net:3: 'Viewer1': there is no scene to show"},
+        {"S.colormap=>M\n", "", "net:12: 'S': there is no colour map to show the field with"},
+        {"S.scalarfield=>F\n", "", "net:12: 'S': there is no field to show"},
+        {"L.colormap=>M\n", "", "net:13: 'L': there is no colour map to show"},
+        {"F.grid=>G\n", "", "net:9: 'F': there is no grid to take a field from"},
+        {"G.spacetime=>B\n", "", "net:7: 'G': there is no data set to take a grid from"},
+        {"radialfield@radialfield", "smoke@radialfield",
+         "net:10: 'F': there is no field 'smoke' on the grid 'AnalyticUniformGrid'"},
+        {"AnalyticUniformGrid@AnalyticUniformGrid", "Sphere@Sphere",
+         "net:8: 'G': the data set has no grid 'Sphere'"},
+        {"Colormaps/Hypsometric M\n", "Colormaps/Nothing M\n", ""},  // complained of already
+    };
+    for (Break const& each : table) {
+        std::string lines = Chain;
+        lines.replace(lines.find(each.line), std::strlen(each.line), each.by);
+        Network network;
+        network.execute(
+            Script::read("# TelmScript Preliminiary Experimental \n# VERBOSE\n" + lines));
+        render(*network.object("Viewer1"), network.pool("Viewer1"));
+        std::vector<Complaint> const faults = network.faultsBehind("Viewer1");
+        std::vector<std::string> texts;
+        for (Complaint const& fault : faults)
+            texts.push_back(reportOf("net", fault));
+        EXPECT_EQ(texts, *each.fault != '\0' ? std::vector<std::string>{each.fault}
+                                             : std::vector<std::string>())
+            << each.line;
+    }
+}
+
+TEST_F(NetworkTest, TellsASavedNetworkThatIsCutAtTheEndOfALine) {
+    std::string const whole = example("HypsometricSlice.telm");
+    for (char const* const begin :
+         {"Camera()\n", "theGrid()\n", "# Setup Objects\n", "theGrid.spacetime=>theBundle\n"}) {
+        Network network;
+        network.execute(Script::read(whole.substr(0, whole.find(begin))));
+        EXPECT_TRUE(anyFailure(network.complaints())) << begin;
+        EXPECT_THAT(reports(network).back(), HasSubstr("; is the file cut off?")) << begin;
+    }
+}
+
 // --- the examples
 
 TEST_F(NetworkTest, CarriesTheFirstExampleOutWithoutAComplaint) {
@@ -350,6 +488,55 @@ TEST_F(NetworkTest, FindsTheConnectionsOfAnObjectInTheOrderOfItsInputs) {
             EXPECT_GE(at, last[connection->object]) << line.text;
             last[connection->object] = at;
         }
+}
+
+/// What each object of the host keeps without reading it; all other parameters of
+/// the examples are read by their objects.
+TEST_F(NetworkTest, ReadsTheParametersOfTheExamplesUnderTheirNames) {
+    std::map<std::string, std::set<std::string>> const kept{
+        {"Camera", {"speed", "epsilon", "bounds", "reset"}},
+        {"ChartSelector", {"chart"}},
+        {"DefaultScene", {"ambient", "bounds", "update"}},
+        {"Viewer1", {"framerate", "snapshot"}},
+        {"Viewer2", {"framerate", "snapshot"}}};
+    for (char const* const name : {"HypsometricSlice.telm", "UserColorsRuler.telm"}) {
+        Script const script = Script::read(example(name));
+        Network fresh;  // the objects as they are made, with nothing set
+        Script makers = script;
+        std::erase_if(makers.lines, [](Line const& line) {
+            return std::holds_alternative<ParameterLine>(line.meaning) ||
+                   std::holds_alternative<PropertyLine>(line.meaning) ||
+                   std::holds_alternative<ConnectionLine>(line.meaning);
+        });
+        fresh.execute(makers);
+        for (Line const& line : script.lines) {
+            auto const* const parameter = std::get_if<ParameterLine>(&line.meaning);
+            Orlo::ObjectPtr const object =
+                parameter != nullptr ? fresh.findObject(parameter->object) : Orlo::ObjectPtr();
+            if (!object || dynamic_cast<Keeper const*>(object.get()) != nullptr)
+                continue;
+            bool const isKept = kept.contains(parameter->object) &&
+                                kept.at(parameter->object).contains(parameter->name);
+            EXPECT_EQ(!object->slot(parameter->name), isKept) << name << ": " << line.text;
+        }
+    }
+}
+
+/// The objects that a network adds stand behind those that they read.
+TEST_F(NetworkTest, FindsTheObjectsOfTheFirstExampleInTheOrderOfTheirDependence) {
+    Script const script = Script::read(example("HypsometricSlice.telm"));
+    std::map<std::string, std::size_t> made;
+    for (Line const& line : script.lines)
+        if (auto const* const creation = std::get_if<CreationLine>(&line.meaning))
+            made[creation->object] = line.number;
+    std::size_t compared = 0;
+    for (Line const& line : script.lines)
+        if (auto const* const connection = std::get_if<ConnectionLine>(&line.meaning))
+            if (made.contains(connection->object) && made.contains(connection->provider)) {
+                EXPECT_GT(made[connection->object], made[connection->provider]) << line.text;
+                ++compared;
+            }
+    EXPECT_GE(compared, 6U);
 }
 
 // --- changes
@@ -455,13 +642,12 @@ TEST_F(NetworkTest, RefusesABadChangeAndLeavesTheNetworkAsItWas) {
         {"Camera.zoom", "wide", "the text 'wide' is no value"},
         {"Camera.zoom{Viewr1}", "1", "there is no context 'Viewr1'; did you mean 'Viewer1'"},
         {"Camera.status", "1", "has no parameter 'status'"},
-        {"Camera.reset", "go", "is no value of the parameter 'reset'"},
         {"Camera.qTelm::Net::x", "left", "is no number"},
         {"Nobody.qTelm::Net::x", "1", "there is no object 'Nobody'"},
         {"UserColors.color1", "(1,1,1,1)", "the object 'UserColors' could not be created"},
         {"qTelmMainWindow.title", "two\nlines", "cannot stand in a saved network"},
         {"qTelmMainWindow.title", std::string(1 << 20, 'x'), "cannot stand in a saved network"},
-        {"FieldSlice.colormap", "red", ""},
+        {"FieldSlice.colormap", "red", "the text 'red' is no value of the parameter 'colormap'"},
         {"Hypsometric_for_FieldSlice_colormap.options", " sideways", "is no value"},
     };
     std::string const first = example("HypsometricSlice.telm");

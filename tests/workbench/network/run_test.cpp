@@ -112,6 +112,137 @@ TEST_F(Run, CanSaveOverTheNetworkItself) {
     EXPECT_THAT(readFile(network), HasSubstr("Camera.zoom=\"50\""));
 }
 
+TEST_F(Run, DrawsEachViewerOnTheBackgroundThatTheNetworkAsksFor) {
+    std::string const head = "# TelmScript Preliminiary Experimental \n";
+    std::string const viewer =
+        "# Expecting procedurally object:  Viewer1\nViewer1.size=\"4x4\"\n"
+        "# Expecting procedurally object:  DefaultScene\nViewer1.scene=>DefaultScene\n";
+    std::vector<std::string> pictures;
+    for (char const* const line : {"", "Viewer1.background=\"(1,0,0,1)\"\n"}) {
+        tests::ProcessResult const result =
+            run({file("in.telm", head + viewer + line), "-o", in("a.png")});
+        EXPECT_EQ(result.status, 0);
+        EXPECT_THAT(result.errLines(), IsEmpty());
+        pictures.push_back(readFile(folder_ / "a.png"));
+    }
+    EXPECT_NE(pictures[0], pictures[1]);
+}
+
+/// One way to call a file.
+struct Alias {
+    char const* what;
+    std::filesystem::path name;
+};
+
+TEST_F(Run, WritesNothingOverTheNetworkThatItReads) {
+    std::string const network = file("own.telm", readFile(first_));
+    std::vector<Alias> aliases{{"itself", network},
+                               {"a detour", folder_.path() / "." / "own.telm"}};
+#if !defined(_WIN32)
+    std::filesystem::create_symlink("own.telm", folder_ / "link");
+    std::filesystem::create_hard_link(network, folder_ / "twin");
+    aliases.push_back({"a link", folder_ / "link"});
+    aliases.push_back({"a twin", folder_ / "twin"});
+#endif
+    for (Alias const& each : aliases) {
+        tests::ProcessResult const result = run({network, "-o", each.name.string()});
+        EXPECT_EQ(result.status, 2) << each.what;
+        ASSERT_THAT(result.errLines(), SizeIs(1)) << each.what;
+        EXPECT_THAT(result.errLines().front(), HasSubstr("would be written over")) << each.what;
+        EXPECT_EQ(readFile(network), readFile(first_)) << each.what;
+    }
+}
+
+TEST_F(Run, WritesPictureAndNetworkToTwoFilesAlone) {
+    std::vector<Alias> aliases{{"itself", in("new")}, {"a detour", folder_.path() / "." / "new"}};
+#if !defined(_WIN32)
+    std::filesystem::create_symlink("new", folder_ / "link");
+    aliases.push_back({"a link to what is not there yet", folder_ / "link"});
+#endif
+    for (Alias const& each : aliases) {
+        tests::ProcessResult const result =
+            run({first_, "-o", in("new"), "--save", each.name.string()});
+        EXPECT_EQ(result.status, 2) << each.what;
+        ASSERT_THAT(result.errLines(), SizeIs(1)) << each.what;
+        EXPECT_THAT(result.errLines().front(), HasSubstr("cannot both be written")) << each.what;
+        EXPECT_FALSE(std::filesystem::exists(folder_ / "new")) << each.what;
+    }
+}
+
+TEST_F(Run, FailsWhereTheWayOfTheDataIsBroken) {
+    std::string const whole = readFile(first_);
+    auto const without = [&](std::string const& line) {
+        std::string text = whole;
+        return text.erase(text.find(line), line.size());
+    };
+    auto const replaced = [&](std::string const& from, std::string const& to) {
+        std::string text = whole;
+        return text.replace(text.find(from), from.size(), to);
+    };
+    struct {
+        char const* what;
+        std::string text;
+        std::string message;  ///< of the first line, behind FILE:LINE:
+    } const cases[] = {
+        {"cut at the end of a line", whole.substr(0, whole.find("Viewer1.scene=>")),
+         "objects are never set up"},
+        {"an unknown field", replaced("\"radialfield@", "\"smoke@"), "there is no field 'smoke'"},
+        {"no map", without("FieldSlice.colormap=>Hypsometric_for_FieldSlice_colormap\n"),
+         "there is no colour map"},
+        {"no scene", without("Viewer1.scene=>DefaultScene\n"), "there is no scene to show"},
+        {"cut before the connections", whole.substr(0, whole.find("#\n# Establish")),
+         "there is no scene to show"},
+    };
+    for (auto const& each : cases) {
+        tests::ProcessResult const result =
+            run({file("broken.telm", each.text), "-o", in("a.png")});
+        EXPECT_EQ(result.status, 1) << each.what;
+        ASSERT_GE(result.errLines().size(), 2U) << each.what;
+        EXPECT_THAT(
+            result.errLines().front(),
+            AllOf(StartsWith("telmbench: " + in("broken.telm") + ":"), HasSubstr(each.message)))
+            << each.what;
+    }
+}
+
+TEST_F(Run, ADamagedNetworkWithoutItsViewerIsNoWrongCall) {
+    std::string const text =
+        "# TelmScript Preliminiary Experimental \n# Expecting procedurally object:  Viewer1 \n";
+    tests::ProcessResult const result = run({file("bad.telm", text), "-o", in("a.png")});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errLines().back(), HasSubstr("there is no viewer 'Viewer1'"));
+}
+
+/// Each object reads the one before, whichever is connected first.
+TEST_F(Run, CarriesOutAChainOfAnyLength) {
+    constexpr int Length = 60'000;
+    std::string objects = "# TelmScript Preliminiary Experimental \n";
+    for (int i = 0; i <= Length; ++i)
+        objects += "# Expecting procedurally object:  K" + std::to_string(i) + "\n";
+    objects +=
+        "# Expecting procedurally object:  Viewer1\nViewer1.size=\"4x4\"\n"
+        "# Expecting procedurally object:  DefaultScene\nViewer1.scene=>DefaultScene\n";
+    auto const connection = [](int i) {
+        return "K" + std::to_string(i) + ".x=>K" + std::to_string(i - 1) + "\n";
+    };
+    std::string forward = objects;
+    std::string backward = objects;
+    for (int i = 1; i <= Length; ++i) {
+        forward += connection(i);
+        backward += connection(Length + 1 - i);
+    }
+    for (std::string const& text : {forward, backward}) {
+        std::string const last = "Viewer1.x=>K" + std::to_string(Length) + "\n";
+        tests::ProcessResult const result =
+            run({file("long.telm", text + last + "K0.x=>Viewer1\n"), "-o", in("a.png")});
+        EXPECT_EQ(result.status, 1);
+        ASSERT_THAT(result.errLines(), SizeIs(2));
+        EXPECT_THAT(result.errLines()[0],
+                    HasSubstr("this would close a cycle: 'Viewer1' itself depends on 'K0'"));
+        EXPECT_THAT(readFile(folder_ / "a.png"), StartsWith(PngBegin));
+    }
+}
+
 TEST_F(Run, TakesCarriageReturnsAndGivesThemBack) {
     std::string text;
     for (char const each : readFile(first_))
@@ -140,6 +271,10 @@ TEST_F(Run, FailsWithOneClearLineAndWritesNothing) {
         {"a folder", {folder_.path().string(), "-o", out}, 1, "telmbench: "},
         {"empty", {file("empty.telm", ""), "-o", out}, 1, "is empty"},
         {"binary", {file("binary.telm", std::string("MZ\0\x01", 4)), "-o", out}, 1, "is no text"},
+        {"a byte order mark",
+         {file("bom.telm", "\xef\xbb\xbf" + banner), "-o", out},
+         1,
+         "bom.telm' begins with a byte order mark"},
         {"a picture", {file("x.png", PngBegin), "-o", out}, 1, "is no saved network"},
         {"no form NAME=TEXT", {first_, "--set", "Camera", "-o", out}, 2, "OBJECT.NAME=TEXT"},
         {"unknown object", {first_, "--set", "Camra.zoom=1", "-o", out}, 2, "mean 'Camera'"},
@@ -185,6 +320,7 @@ TEST_F(Run, NamesFileLineTextAndReasonAndGoesOn) {
                           EndsWith("has 1048591 bytes; more than 65536 are not read")),
                     StartsWith(place + "6: 'Viewer1.si': the line has none of the forms"),
                     place + "6: the last line has no line feed; is the file cut off?",
+                    place + "2: 'Viewer1': there is no scene to show",
                     HasSubstr("could not be carried out; all the rest was")));
     EXPECT_EQ(readFile(folder_ / "a.png").substr(16, 8), std::string("\0\0\0\x28\0\0\0\x1e", 8));
     EXPECT_EQ(readFile(folder_ / "a.telm"), text) << "nothing is lost";

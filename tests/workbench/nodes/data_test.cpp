@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "host/creators/VActionNotifier.hpp"
 #include "tests/workbench/nodes/Stage.hpp"
+#include "workbench/nodes/Node.hpp"
 
 using namespace Orlo;
 using namespace workbench;
@@ -9,21 +9,18 @@ using namespace workbench;
 namespace tests {
 namespace {
 
-/// Keeps the warnings while it stands.
-class Warnings : public VActionNotifier {
-public:
-    void warned(std::string const& text) override { texts.push_back(text); }
-
-    std::vector<std::string> texts;
-};
-
 class Data : public testing::Test {
 protected:
     Data() { stage.furnish(); }
 
     FieldPtr field() { return provided<FieldPtr>(stage["theField"], "field", stage.pool); }
 
-    Warnings warnings;
+    /// The parameter and the reason of an object's fault; empty if it has none.
+    std::string fault(char const* name) {
+        Fault const& found = dynamic_cast<Node const&>(stage[name]).fault();
+        return found.reason.empty() ? "" : found.parameter + ": " + found.reason;
+    }
+
     Stage stage;
 };
 
@@ -114,27 +111,28 @@ TEST_F(Data, TheHillSinksInSteps) {
     }
 }
 
-TEST_F(Data, ANameThatTheBundleDoesNotHaveGivesNothingAndAWarning) {
+TEST_F(Data, ANameThatTheBundleDoesNotHaveGivesNothingWhichIsAFault) {
     ASSERT_TRUE(field());
+    EXPECT_EQ(fault("theField"), "");
     stage.set("theField", "fieldname", "smoke@radialfield");
     EXPECT_FALSE(field());
-    ASSERT_EQ(warnings.texts.size(), 1U);
-    EXPECT_EQ(warnings.texts[0],
-              "theField: there is no field 'smoke' on the grid 'AnalyticUniformGrid'");
+    EXPECT_EQ(fault("theField"),
+              "fieldname: there is no field 'smoke' on the grid 'AnalyticUniformGrid'");
     stage.set("theField", "fieldname", "radialfield@radialfield");
     EXPECT_TRUE(field());
+    EXPECT_EQ(fault("theField"), "");
     stage.set("theGrid", "gridname", "Sphere@Sphere");
     EXPECT_FALSE(field());
-    ASSERT_EQ(warnings.texts.size(), 2U);
-    EXPECT_EQ(warnings.texts[1], "theGrid: the bundle has no grid 'Sphere'");
+    EXPECT_EQ(fault("theGrid"), "gridname: the data set has no grid 'Sphere'");
 }
 
-TEST_F(Data, WhatIsNotConnectedGivesNothingAndNoWarning) {
+TEST_F(Data, WhatIsNotConnectedGivesNothingWhichIsAFault) {
     stage.remove("theBundle");
     EXPECT_FALSE(field());
+    EXPECT_EQ(fault("theGrid"), "spacetime: there is no data set to take a grid from");
     stage.remove("theGrid");
     EXPECT_FALSE(field());
-    EXPECT_TRUE(warnings.texts.empty());
+    EXPECT_EQ(fault("theField"), "grid: there is no grid to take a field from");
 }
 
 }  // namespace

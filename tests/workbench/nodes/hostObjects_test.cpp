@@ -22,7 +22,7 @@ std::vector<std::string> const CameraSlots{"observer={0,2.4,1}",
                                            "time=0[0,1]@0.1",
                                            "::view->A View Object."};
 std::vector<std::string> const ViewerSlots{"scene=A Scene Object.", "camera=A View Object.",
-                                           "backgroundcolor=(0.04,0.05,0.07,1)", "size=1046x650",
+                                           "size=1046x650", "background=(0.04,0.05,0.07,1)",
                                            "::object->An Object."};
 std::vector<std::string> const SceneSlots{"::scene->A Scene Object."};
 std::vector<std::string> const ChartSlots{"::atlas=A Grid Object.", "::chart->A Chart Object."};

@@ -16,7 +16,8 @@ struct Kind {
 std::vector<Kind> const& kinds() {
     static std::vector<Kind> const table = {
         {"CreateBundle/RadialScalarField",
-         {"gridsize=32", "size=1", "timesteps=10", "tmax=1", "a=1", "bundle->A Bundle Object."}},
+         {"gridsize=32", "size=1", "timesteps=10", "tmax=1", "a=1",
+          "Threads=", "bundle->A Bundle Object."}},
         {"Strand/Grid",
          {"spacetime=A Bundle Object.", "gridname=AnalyticUniformGrid@AnalyticUniformGrid",
           "grid->A Grid Object."}},

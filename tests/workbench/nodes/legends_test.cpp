@@ -12,6 +12,7 @@ namespace tests {
 namespace {
 
 Rgba8 const White{255, 255, 255, 255};
+Rgba8 const Black{0, 0, 0, 255};
 Rgba8 const Background = opaque({0.04, 0.05, 0.07, 1.0});
 
 class Legends : public testing::Test {
@@ -112,6 +113,32 @@ TEST_F(Legends, LabelsTellTheDomain) {
     EXPECT_FALSE(stage.picture() == before);
 }
 
+/// Wherever a pixel of a label's colour stands, the pixels around it have the same
+/// colour or that of the seam, so that no picture behind can swallow it.
+TEST_F(Legends, LabelsCanBeReadOnEveryColour) {
+    struct {
+        char const* background;
+        char const* border;
+        Rgba8 label, seam;
+    } const table[] = {{"(1,1,1,1)", "(1,1,1,1)", White, Black},
+                       {"(1,1,0.9,1)", "(1,1,1,1)", White, Black},
+                       {"(0,0,0,1)", "(0,0,0,1)", Black, White},
+                       {"(0.1,0,0.1,1)", "(0,0,0,1)", Black, White}};
+    for (auto const& each : table) {
+        stage.set("Viewer1", "background", each.background);
+        stage.set("Legend", "bordercolor", each.border);
+        Image const image = stage.picture();
+        PixelRect const labels{31, 10, 20, 80};  // to the right of the bar and its marks
+        EXPECT_TRUE(has(image, labels, each.seam)) << each.background;
+        for (int y = labels.top; y < labels.bottom(); ++y)
+            for (int x = labels.left; x < labels.right(); ++x)
+                if (image.at(x, y) == each.label) {
+                    Rgba8 const beside = image.at(x + 1, y);
+                    EXPECT_TRUE(beside == each.label || beside == each.seam) << x << "," << y;
+                }
+    }
+}
+
 TEST_F(Legends, ABarTooLowForTwoLabelsHasNone) {
     stage.set("Legend", "height", "0.17");
     Image const low = stage.picture();
@@ -174,11 +201,14 @@ TEST_F(Rulers, TheLineSpansTheWidthAndTheMarksStandOnIt) {
     Image const image = stage.picture();
     int const line = lineOf(image, 10, 190);
     ASSERT_GT(line, 0);
-    EXPECT_EQ(image.at(9, line), Background);
-    EXPECT_EQ(image.at(191, line), Background);
+    EXPECT_EQ(image.at(9, line), Black);
+    EXPECT_EQ(image.at(8, line), Background);
+    EXPECT_EQ(image.at(191, line), Black);
+    EXPECT_EQ(image.at(192, line), Background);
     EXPECT_EQ(image.at(10, line - 8), White);
     EXPECT_EQ(image.at(190, line - 8), White);
-    EXPECT_EQ(image.at(10, line - 9), Background);
+    EXPECT_EQ(image.at(10, line - 9), Black);
+    EXPECT_EQ(image.at(10, line - 10), Background);
     EXPECT_TRUE(has(image, {0, line + 1, 200, 99 - line}, White));
 }
 

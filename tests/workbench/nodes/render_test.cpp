@@ -80,7 +80,7 @@ TEST_F(Rendering, TheSliceIsSeenInTheColorsOfItsMap) {
 }
 
 TEST_F(Rendering, TheBackgroundIsThatOfTheViewer) {
-    stage.set("Viewer1", "backgroundcolor", "(0,1,2,0)");
+    stage.set("Viewer1", "background", "(0,1,2,0)");
     EXPECT_EQ(stage.picture().at(0, 0), (Rgba8{0, 255, 255, 255}));
 }
 
@@ -132,7 +132,7 @@ TEST_F(Rendering, WhatIsTooNearOrTooFarIsNotShown) {
 
 TEST_F(Rendering, OpacityMixesWithWhatIsBehind) {
     stage.set("theBundle", "gridsize", "33");
-    stage.set("Viewer1", "backgroundcolor", "(0,0,0,1)");
+    stage.set("Viewer1", "background", "(0,0,0,1)");
     stage.set("FieldSlice", "transparency", "0.5");
     EXPECT_EQ(middle(), opaque({0.5, 0.0, 0.25, 1.0}));
     stage.set("FieldSlice", "transparency", "0");

@@ -1,0 +1,54 @@
+#include "workbench/cli/files.hpp"
+
+#include <algorithm>
+
+#include "workbench/cli/Progress.hpp"
+#include "workbench/common/errors.hpp"
+#include "workbench/common/files.hpp"
+#include "workbench/common/inQuotes.hpp"
+#include "workbench/common/paths.hpp"
+#include "workbench/picture/png.hpp"
+
+namespace workbench {
+
+namespace fs = std::filesystem;
+
+CLI::Option* addFile(CLI::App& command, std::string const& name, fs::path& file,
+                     std::string const& description) {
+    auto const take = [name, &file](std::string const& text) {
+        if (text.empty())
+            throw CallError(name + " is given the empty text, which names no file");
+        file = pathOf(text);
+    };
+    return command.add_option_function<std::string>(name, take, description)->type_name("FILE");
+}
+
+void checkOutput(fs::path const& output, std::vector<fs::path> const& inputs) {
+    for (fs::path const& input : inputs)
+        if (!output.empty() && !input.empty() && isSameFile(output, input))
+            throw CallError(inQuotes(textOf(output), 1000) + " would be written over " +
+                            inQuotes(textOf(input), 1000) +
+                            ", which is read and is the same file; name another file to write");
+}
+
+OutputFiles::OutputFiles(std::vector<fs::path> const& files)
+    : output_(std::ranges::any_of(files, isStandardOutput)) {}
+
+void OutputFiles::write(fs::path const& file, std::string const& bytes) {
+    if (output_.isAt(file))
+        output_.write(bytes);
+    else
+        writeFile(file, bytes);
+}
+
+void OutputFiles::write(fs::path const& file, Image const& picture) {
+    std::string bytes;
+    {
+        Progress progress("encoding the picture");
+        progress.begin();
+        bytes = encodePng(picture);
+    }
+    write(file, bytes);
+}
+
+}  // namespace workbench
