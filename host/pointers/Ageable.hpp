@@ -13,8 +13,8 @@ namespace Nucleo {
 /// Units: ticks of `GlobalTime`, a clock that only counts changes. A later
 /// stamp is a greater number. Threads: `touch` may be called on any thread;
 /// two at once may take the same, later stamp, which is accepted, since stamps
-/// need only grow. The stamp itself is plain: a reader that races with a touch
-/// sees the old or the new one.
+/// need only grow. A reader beside a touch sees the old stamp or the new one, and
+/// may not conclude anything else from it.
 class NUCLEO_API Ageable {
 public:
     using Stamp = std::uint64_t;
@@ -24,30 +24,33 @@ public:
 
     /// Starts with the present time, without advancing it.
     Ageable() noexcept : stamp_(now()) {}
-    Ageable(Ageable const&) noexcept = default;
-    Ageable& operator=(Ageable const&) noexcept = default;
+    Ageable(Ageable const& other) noexcept : stamp_(other.age()) {}
+    Ageable& operator=(Ageable const& other) noexcept {
+        setAge(other.age());
+        return *this;
+    }
     ~Ageable();
 
     /// The present time.
     static Stamp now() noexcept { return GlobalTime.load(std::memory_order_relaxed); }
 
-    Stamp age() const noexcept { return stamp_; }
-    void setAge(Stamp newStamp) noexcept { stamp_ = newStamp; }
+    Stamp age() const noexcept { return stamp_.load(std::memory_order_relaxed); }
+    void setAge(Stamp newStamp) noexcept { stamp_.store(newStamp, std::memory_order_relaxed); }
 
     /// Makes this the youngest of all objects.
     void touch() noexcept {
         GlobalTime.fetch_add(1);
-        stamp_ = now();
+        setAge(now());
     }
 
     /// Takes the given stamp if it is later than its own.
     void raiseAge(Stamp other) noexcept {
-        if (other > stamp_)
-            stamp_ = other;
+        if (other > age())
+            setAge(other);
     }
 
 private:
-    Stamp stamp_;
+    std::atomic<Stamp> stamp_;
 };
 
 }  // namespace Nucleo

@@ -10,6 +10,7 @@
 
 #include "host/pointers/StrongPtr.hpp"
 #include "host/pointers/import.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Nucleo {
 

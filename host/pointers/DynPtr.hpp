@@ -5,6 +5,7 @@
 
 #include "host/pointers/PointerID.hpp"
 #include "host/pointers/ReferenceBase.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Nucleo {
 

@@ -2,10 +2,11 @@
 #pragma once
 
 #include "host/pointers/import.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Nucleo {
 
-/// A function of one double. [reader]
+/// A function of one double.
 class NUCLEO_API Functor {
 public:
     Functor() = default;
@@ -13,6 +14,7 @@ public:
     Functor& operator=(Functor const&) = default;
     virtual ~Functor();
 
+    /// The function's value. [reader]
     virtual double operator()(double t) const = 0;
 };
 

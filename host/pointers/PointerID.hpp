@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "host/pointers/import.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Nucleo {
 

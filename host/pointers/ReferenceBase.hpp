@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "host/pointers/SpeakPtr.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Nucleo {
 
@@ -16,7 +17,7 @@ class ReferenceBase;
 /// Owner: nobody alone; freed by whoever takes `weak` to zero, which is never
 /// before the object itself has gone. Threads: both counts are changed by
 /// atomic operations only; a test of a count is an ordinary load and therefore
-/// only advice.
+/// only advice, but for the one before a deletion.
 template <class B>
 struct ControlBlock {
     /// `strong` of an object that is gone, or is just being deleted.
@@ -33,6 +34,17 @@ struct ControlBlock {
     ReferenceBase<B>* objectNow() const noexcept { return object.load(std::memory_order_relaxed); }
 
     bool alive() const noexcept { return objectNow() != nullptr && strongNow() >= 0; }
+
+    /// Puts `Dead` in the place of a strong count below 1; false if somebody holds
+    /// the object. Test and exchange are one step: a reference that comes between
+    /// the two would be one to freed memory.
+    bool markDeadUnlessHeld() noexcept {
+        std::int32_t count = strongNow();
+        while (count < 1)
+            if (strong.compare_exchange_weak(count, Dead))
+                return true;
+        return false;
+    }
 
     /// Gives one weak count back; the last one frees the block.
     void releaseWeak() noexcept {

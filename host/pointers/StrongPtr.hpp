@@ -25,9 +25,13 @@ public:
 
     StrongPtr(StrongPtr const& other) noexcept : WeakPtr<T, B>(other) { hold("StrongPtr"); }
 
+    /// From a pointer of any class of the family, also while its object may go on
+    /// another thread: it is counted first and looked at afterwards.
     template <class U>
-    StrongPtr(WeakPtr<U, B> const& other) noexcept : WeakPtr<T, B>(other) {
+    StrongPtr(WeakPtr<U, B> const& other) noexcept {
+        this->share(other.controlBlock());
         hold("StrongPtr");
+        this->find();
     }
 
     ~StrongPtr() { release(); }
@@ -46,7 +50,8 @@ private:
     void hold(char const* label) noexcept {
         if (this->block == nullptr || this->block->strongNow() < 0)
             return;
-        this->block->strong.fetch_add(1);
+        if (this->block->strong.fetch_add(1) < 0)
+            this->block->strong.fetch_sub(1);  // it has died since the test, and stays so
         trace(label, "hold");
     }
 
@@ -80,13 +85,11 @@ private:
         if (!shared->alive())
             SpeakPtr::theSpeaker()->DynPtrInvalid(shared, shared->objectNow(), shared->strongNow(),
                                                   shared->weakNow(), typeid(T));
-        if (shared->strongNow() < 1) {
-            shared->strong.exchange(ControlBlock<B>::Dead);
+        if (shared->markDeadUnlessHeld())
             delete shared->object.exchange(nullptr);
-        } else {
+        else
             SpeakPtr::theSpeaker()->DestructionCancelled(shared->strongNow(), shared->weakNow(),
                                                          typeid(T));
-        }
     }
 
     void trace(char const* label, char const* operation) const noexcept {

@@ -5,6 +5,7 @@
 #include <typeinfo>
 
 #include "host/pointers/import.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Nucleo {
 

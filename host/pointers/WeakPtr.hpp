@@ -14,7 +14,8 @@ namespace Nucleo {
 ///
 /// It reads as empty (`alive()` is false, `get()` is null) once the object has
 /// gone or is going. Built from a pointer to another class of the family it
-/// casts dynamically and reads as null where the cast fails.
+/// casts dynamically and reads as null where the cast fails; that cast reads the
+/// object, so that somebody must hold it meanwhile. A `StrongPtr` holds it itself.
 ///
 /// Threads: one pointer object belongs to one thread at a time, as with any
 /// value; the counts behind it are safe on all threads.
@@ -26,20 +27,27 @@ public:
 
     /// From an object, which need not be held by anybody.
     WeakPtr(T* object) noexcept {
-        if (object != nullptr)
-            attach(static_cast<ReferenceBase<B>*>(object)->controlBlock(), object);
+        if (object == nullptr)
+            return;
+        share(static_cast<ReferenceBase<B>*>(object)->controlBlock());
+        find(object);
     }
 
     WeakPtr(WeakPtr const& other) noexcept : WeakPtr() {
-        if (this == &other)
+        if (this == &other) {
             this->speakSelfConstruction();
-        else
-            attach(other.block, other.typed);
+            return;
+        }
+        share(other.block);
+        find(other.typed);
     }
 
     template <class U>
     requires(!std::same_as<U, T>) WeakPtr(WeakPtr<U, B> const& other)
-    noexcept : WeakPtr() { attach(other.controlBlock()); }
+    noexcept : WeakPtr() {
+        share(other.controlBlock());
+        find();
+    }
 
     ~WeakPtr() { detach(); }
 
@@ -68,19 +76,23 @@ public:
     bool operator==(std::nullptr_t) const noexcept { return get() == nullptr; }
 
 protected:
-    /// Takes a weak count on the block and finds the object as a `T`.
-    void attach(ControlBlock<B>* shared) noexcept {
-        attach(shared, nullptr);
-        if (this->alive())
-            typed = cast(shared->objectNow());
+    /// Takes a weak count on the block.
+    void share(ControlBlock<B>* shared) noexcept {
+        this->block = shared;
+        if (shared != nullptr)
+            shared->weak.fetch_add(1);
     }
 
-    void attach(ControlBlock<B>* shared, T* object) noexcept {
-        this->block = shared;
-        if (shared == nullptr)
-            return;
-        shared->weak.fetch_add(1);
-        if (shared->alive())
+    /// Finds the object of the block as a `T`, if it is alive. Reads the object:
+    /// a strong pointer holds it before.
+    void find() noexcept {
+        if (this->alive())
+            typed = cast(this->block->objectNow());
+    }
+
+    /// The same where the object is known as a `T` already.
+    void find(T* object) noexcept {
+        if (this->alive())
             typed = object;
     }
 

@@ -6,6 +6,8 @@
 #include <thread>
 #include <vector>
 
+#include "tests/support/Rendezvous.hpp"
+
 namespace tests {
 namespace {
 
@@ -50,21 +52,27 @@ TEST(TimeStamp, CopiedKeepsItsAge) {
 }
 
 TEST(GlobalTime, LosesNoTouchOnAnyThread) {
+    constexpr unsigned threadCount = 4;
+    constexpr int rounds = 100, touches = 500;
     Ageable::Stamp const before = Ageable::now();
+    Rendezvous together(threadCount);
     std::vector<std::thread> threads;
-    for (int i = 0; i < 4; ++i)
-        threads.emplace_back([] {
+    for (unsigned i = 0; i < threadCount; ++i)
+        threads.emplace_back([&] {
             Ageable mine;
             Ageable::Stamp last = mine.age();
-            for (int k = 0; k < 1000; ++k) {
-                mine.touch();
-                EXPECT_GT(mine.age(), last);
-                last = mine.age();
+            for (int round = 0; round < rounds; ++round) {
+                together.arriveAndWait();
+                for (int k = 0; k < touches; ++k) {
+                    mine.touch();
+                    EXPECT_GT(mine.age(), last);
+                    last = mine.age();
+                }
             }
         });
     for (auto& thread : threads)
         thread.join();
-    EXPECT_EQ(Ageable::now(), before + 4000);
+    EXPECT_EQ(Ageable::now(), before + threadCount * rounds * touches);
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "host/pointers/Auto.hpp"
 #include "tests/host/pointers/family.hpp"
 #include "tests/support/RecordingSpeaker.hpp"
+#include "tests/support/Rendezvous.hpp"
 #include "tests/support/virtualSlot.hpp"
 
 namespace tests {
@@ -99,6 +100,17 @@ TEST(CountedObject, CopiedIsAnotherObjectWithItsOwnCounts) {
     EXPECT_EQ(countsOf(first), (Counts{1, 2}));
 }
 
+TEST(CountedObject, AssignedKeepsItsOwnCounts) {
+    StrongRoot const first(new Root);
+    StrongRoot const second(new Root);
+    Block const* const own = second->controlBlock();
+    *second = *first;
+    EXPECT_EQ(second->controlBlock(), own);
+    EXPECT_EQ(own->objectNow(), second.get());
+    EXPECT_EQ(countsOf(first), (Counts{1, 2}));
+    EXPECT_EQ(countsOf(second), (Counts{1, 2}));
+}
+
 TEST(StrongPointer, CountsStrongAndWeak) {
     StrongRoot const first(new Root);
     EXPECT_EQ(countsOf(first), (Counts{1, 2}));
@@ -136,14 +148,46 @@ TEST(StrongPointer, AssignedTheSameObjectKeepsIt) {
     EXPECT_EQ(deaths, 0);
 }
 
-TEST(StrongPointer, OnAllThreadsCountsExactly) {
+/// A member of a list that each member before it holds.
+class Link : public Root {
+public:
+    using Root::Root;
+    StrongRoot next;
+};
+
+TEST(StrongPointer, AssignedHoldsTheNextObjectBeforeItLetsGoOfTheFormer) {
+    int deaths = 0;
+    auto* const first = new Link(&deaths);
+    first->next = new Root(&deaths);
+    WeakRoot const second(first->next);
+    StrongRoot pointer(first);
+    pointer = first->next;  // which goes with the first
+    EXPECT_EQ(deaths, 1);
+    ASSERT_TRUE(second.alive());
+    EXPECT_EQ(pointer.get(), second.get());
+}
+
+TEST(WeakPointer, AssignedHoldsTheNextBlockBeforeItLetsGoOfTheFormer) {
     StrongRoot const object(new Root);
+    WeakRoot pointer(object);
+    WeakRoot const same(pointer);
+    pointer = same;
+    EXPECT_EQ(countsOf(object), (Counts{1, 4}));
+}
+
+TEST(StrongPointer, OnAllThreadsCountsExactly) {
+    constexpr unsigned threadCount = 4;
+    StrongRoot const object(new Root);
+    Rendezvous together(threadCount);
     std::vector<std::thread> threads;
-    for (int i = 0; i < 4; ++i)
-        threads.emplace_back([&object] {
-            for (int k = 0; k < 2000; ++k) {
-                StrongRoot const copy(object);
-                WeakRoot const weak(copy);
+    for (unsigned i = 0; i < threadCount; ++i)
+        threads.emplace_back([&] {
+            for (int round = 0; round < 100; ++round) {
+                together.arriveAndWait();
+                for (int k = 0; k < 500; ++k) {
+                    StrongRoot const copy(object);
+                    WeakRoot const weak(copy);
+                }
             }
         });
     for (auto& thread : threads)
@@ -216,6 +260,23 @@ TEST(StrongPointer, FromAWeakPointerToADeadObjectHoldsNothing) {
     EXPECT_EQ(countsOf(weak), (Counts{-111, 1}));
 }
 
+TEST(StrongPointer, FromAPointerOfAnotherClassIsCountedBeforeItLooksAtTheObject) {
+    RecordingSpeaker speaker;
+    StrongRoot const root(new Leaf);
+    Block* const block = root.controlBlock();
+    auto* const object = block->objectNow();
+    speaker.atReport = [&](PointerReport const& report) {
+        if (report.operation == "hold")
+            block->object = nullptr;  // whoever looks now finds nothing
+    };
+    Nucleo::SpeakPtr::Tracing = true;
+    StrongLeaf const leaf(root);
+    Nucleo::SpeakPtr::Tracing = false;
+    block->object = object;
+    EXPECT_EQ(countsOf(root), (Counts{2, 3}));
+    EXPECT_EQ(leaf.get(), nullptr) << "the cast came first";
+}
+
 TEST(WeakPointer, ToADyingObjectReadsAsEmpty) {
     auto* const object = new Root;
     WeakRoot const weak(object);
@@ -237,6 +298,7 @@ TEST(StrongPointer, OfAnObjectThatWasDeletedByHandReadsAsEmptyAndLetsGoInSilence
     EXPECT_EQ(deaths, 1);
     EXPECT_FALSE(holder);
     EXPECT_EQ(countsOf(holder), (Counts{-111, 2}));
+    EXPECT_EQ(holder.controlBlock()->objectNow(), nullptr) << "nobody may delete it again";
     holder = nullptr;
     EXPECT_EQ(countsOf(second), (Counts{-111, 1}));
     EXPECT_TRUE(speaker.reports.empty());
@@ -273,6 +335,22 @@ TEST(FinalUnction, ThatTakesANewStrongReferenceIsReportedAndTheObjectLives) {
     rescued = nullptr;
     EXPECT_EQ(deaths, 1);
     EXPECT_EQ(speaker.reports.size(), 1u) << "the second release is an ordinary one";
+}
+
+TEST(FinalUnction, ThatTakesTheLastReferenceAwayIsReportedAndNothingIsDeleted) {
+    RecordingSpeaker speaker;
+    int deaths = 0;
+    auto* const object = new Root(&deaths);
+    auto* const block = object->controlBlock();
+    object->atUnction = [&] { block->strong.fetch_sub(1); };
+    WeakRoot const weak(object);
+    { StrongRoot const last(object); }
+    ASSERT_EQ(speaker.reports.size(), 1u);
+    EXPECT_EQ(speaker.reports[0].what, "WarningUnctionChange");
+    EXPECT_EQ(speaker.reports[0].strong, 0);
+    EXPECT_EQ(speaker.reports[0].weak, 3);
+    EXPECT_EQ(deaths, 0);
+    delete object;
 }
 
 TEST(LastRelease, ThatFindsTheObjectGoneIsReported) {
@@ -425,13 +503,34 @@ TEST(StaticObject, WithASelfReferenceEndsAtMinus333ThenMinus111WithoutADelete) {
     EXPECT_EQ(weak.get(), nullptr);
 }
 
-TEST(MemberObject, ThatNobodyHoldsEndsAtMinus111) {
+TEST(MemberObject, ThatNobodyHoldsEndsAtMinus333ThenMinus111) {
+    RecordingSpeaker speaker;
+    std::vector<int> passed;
     WeakRoot weak;
     {
         Root object;
         weak = WeakRoot(&object);
+        speaker.atReport = [&](PointerReport const& report) {
+            if (report.operation == "dies while counted")
+                passed.push_back(static_cast<Block const*>(report.block)->strongNow());
+        };
+        Nucleo::SpeakPtr::Tracing = true;
     }
+    Nucleo::SpeakPtr::Tracing = false;
+    EXPECT_EQ(passed, std::vector<int>{-333}) << "a count of 0 is not negative";
     EXPECT_EQ(countsOf(weak), (Counts{-111, 1}));
+    EXPECT_EQ(weak.controlBlock()->objectNow(), nullptr);
+}
+
+TEST(DeadPointers, AreEqualOnlyIfTheyPointedToTheSameObject) {
+    StrongRoot first(new Root), second(new Root);
+    WeakRoot const one(first), same(first), other(second);
+    first = nullptr;
+    second = nullptr;
+    EXPECT_TRUE(one == same);
+    EXPECT_FALSE(one == other);
+    EXPECT_FALSE(one == WeakRoot());
+    EXPECT_TRUE(one == nullptr);
 }
 
 }  // namespace
