@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "host/pointers/threads.hpp"
+
 namespace prism {
 
 /// The reasons with which the operating system calls.

@@ -8,6 +8,7 @@
 #include "host/colormap/rgba_float_t.hpp"
 #include "host/pointers/Ageable.hpp"
 #include "host/pointers/Chunk.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Orlo {
 
@@ -41,7 +42,7 @@ public:
 
     /// The colour of entry `i`, which is the scalar
     /// `getMin() + (getMax() - getMin()) * i / getSize()`: for a table map, row
-    /// `i`. Components are limited to 0..1 (NaN counts as 0), scaled to the
+    /// `i`. Components are clamped to 0..1 (NaN counts as 0), scaled to the
     /// integer's range and rounded to nearest. [reader]
     virtual rgb8_t getColorRGB(int i) const;
     virtual rgba8_t getColorRGBA(int i) const;

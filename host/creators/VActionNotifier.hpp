@@ -4,13 +4,16 @@
 #include <string>
 
 #include "host/object/VObject.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Orlo {
 
 /// Tells listeners what happens. A listener is one object of a derived class;
 /// it hears from its construction to its destruction.
 ///
-/// Threads: [any]; the listeners are called one at a time.
+/// Threads: news may come from any thread; the listeners are called one at a
+/// time. While it hears, a listener may make and destroy listeners, itself
+/// included: a new one hears the next news, a destroyed one nothing more.
 class LATTICE_API VActionNotifier {
 public:
     VActionNotifier();
@@ -24,7 +27,9 @@ public:
     static void VObjectCreation(ObjectPtr const& object, Nucleo::Intercube const& context,
                                 WeakPtr<VCreatorBase, VManagedObjectBase> const& creator);
 
+    /// A warning was given. [any]
     virtual void warned(std::string const& text);
+    /// An object was made. [any]
     virtual void created(ObjectPtr const& object, Nucleo::Intercube const& context,
                          WeakPtr<VCreatorBase, VManagedObjectBase> const& creator);
 };

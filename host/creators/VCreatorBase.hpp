@@ -9,6 +9,7 @@
 
 #include "host/creators/VCreatorProperties.hpp"
 #include "host/object/VObject.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Orlo {
 
@@ -56,7 +57,10 @@ public:
     std::string const& name() const { return get(VCreatorPropertyElements::Name); }
     int orderNumber() const noexcept { return order_; }
     bool isHidden() const noexcept { return hidden_; }
-    PreferencesPtr const& preferences() const noexcept { return wishes_; }
+    PreferencesPtr const& preferences() const noexcept { return preferences_; }
+    /// The interface that the creator was built against: the text that was passed,
+    /// which belongs to the creator's library.
+    char const* token() const noexcept { return token_; }
 
     /// Notes an object of this creator.
     void addInstance(WeakObjectPtr const& object) const;
@@ -70,7 +74,8 @@ private:
     struct State;
     int order_;
     bool hidden_;
-    PreferencesPtr wishes_;
+    PreferencesPtr preferences_;
+    char const* token_;
     std::unique_ptr<State> state_;
 };
 

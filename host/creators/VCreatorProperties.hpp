@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <cstddef>
 #include <string>
 
@@ -9,10 +10,10 @@
 
 namespace Orlo {
 
-/// One text for each key; an empty text means that the key is not set.
+/// One text for each key that is set; the text may be empty.
 class LATTICE_API VCreatorPropertyElements {
 public:
-    /// The keys, by their place in the array.
+    /// The keys, by their index in the array.
     enum Key : unsigned {
         Category = 0,
         Name = 1,
@@ -25,10 +26,19 @@ public:
         AllKeys = 4294967295u,
     };
 
+    /// The text of a key, empty if it is not set.
     std::string const& get(Key key) const { return elements_.at(key); }
+    bool isSet(Key key) const { return set_.test(key); }
 
 protected:
+    void set(std::size_t key, std::string const& text) {
+        elements_.at(key) = text;
+        set_.set(key);
+    }
+
+private:
     std::array<std::string, KeyCount> elements_;
+    std::bitset<KeyCount> set_;
 };
 
 /// A property list that others can be folded into.
@@ -51,7 +61,7 @@ public:
 template <unsigned K>
 class VCreatorProperty : public VCreatorPropertyBase {
 public:
-    explicit VCreatorProperty(std::string const& text) { elements_.at(K) = text; }
+    explicit VCreatorProperty(std::string const& text) { set(K, text); }
 };
 
 /// A list with no key of its own.

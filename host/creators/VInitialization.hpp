@@ -4,6 +4,7 @@
 #include <string>
 
 #include "host/pointers/import.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Orlo {
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/object/VConnectable.hpp"
+#include "host/pointers/threads.hpp"
 #include "host/values/Range.hpp"
 #include "host/values/VCreationPreferences.hpp"
 #include "host/values/VTime.hpp"

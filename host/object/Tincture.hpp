@@ -6,6 +6,7 @@
 
 #include "host/colormap/Colormap.hpp"
 #include "host/object/VObject.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Orlo {
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/object/VSlotContainer.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Orlo {
 
@@ -14,8 +15,8 @@ using VSlotSet = std::vector<SlotPtr>;
 
 /// A container whose slots can be connected.
 ///
-/// Errors: a connection that is not possible is refused with false and changes
-/// nothing.
+/// Errors: a connection that is not possible, be it for want of a slot, is refused
+/// with false and changes nothing.
 class LATTICE_API VConnectable : public VSlotContainer {
 public:
     ~VConnectable() override;

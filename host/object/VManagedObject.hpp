@@ -5,6 +5,7 @@
 
 #include "host/pointers/Intercube.hpp"
 #include "host/pointers/MutableName.hpp"
+#include "host/pointers/threads.hpp"
 #include "host/values/VManagedObjectBase.hpp"
 
 namespace Orlo {

@@ -1,6 +1,8 @@
 /// The nodes of the dataflow network.
 #pragma once
 
+#include <atomic>
+#include <cstddef>
 #include <list>
 #include <memory>
 #include <mutex>
@@ -10,6 +12,7 @@
 #include "host/object/VManagedObject.hpp"
 #include "host/object/VRequest.hpp"
 #include "host/pointers/Interface.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Orlo {
 
@@ -83,22 +86,28 @@ class LATTICE_API VObject : public virtual VManagedObjectBase,
                             public VTraceRequestID {
 public:
     /// Which text `help` is asked for. Any other number means the short one.
-    enum HelpType { ShortHelp = 0, HelpLink = 1, LongHelp = 2 };
+    enum HelpType : int { ShortHelp = 0, HelpLink = 1, LongHelp = 2 };
 
+    /// `kind` is 0 for every object of a colour-map library.
     VObject(std::string const& name, int kind, PreferencesPtr const& preferences);
     ~VObject() override;
 
-    /// Brings the object up to date in the pool of the request: first the
-    /// providers of its inputs, then, if it must or if an input has changed
-    /// since its last update there, itself. False if request processing is off.
-    /// The weak pointers name who asks and for whom. [any]
+    /// Brings the object up to date in the pool of the request: first all that it
+    /// depends on, each object behind its own providers, then, if it must or if an
+    /// input has changed since its last update there, itself. A chain of
+    /// connections may be of any length. False if request processing is off. The
+    /// weak pointers name who asks and for whom. [any]
     virtual bool request(VRequest& request, double precision,
                          WeakPtr<VManagedObjectBase, VManagedObjectBase> const& asker,
                          WeakPtr<VManagedObjectBase, VManagedObjectBase> const& consumer);
-    /// Recomputes the outputs for the request's pool. [updater]
+    /// Recomputes the outputs for the request's pool. Called by itself, not through
+    /// `request`, it is not noted as finished: what has changed stays changed.
+    /// [updater]
     virtual bool update(VRequest& request, double precision) = 0;
-    /// Whether an update is due whatever the ages of the inputs say; here, if
-    /// there was none in the pool. [updater]
+    /// Whether an update is due. Here: whether an input has changed since the
+    /// object's last finished update in the pool, or there was none. An override
+    /// may tell of other reasons alone, since a request asks for changed inputs
+    /// whatever this says. [updater]
     virtual bool must_update(VRequest const& request, double precision) const;
     /// The part of `request` behind the providers and the lock. [updater]
     virtual bool unsychronized_update(VRequest& request, double precision);
@@ -121,7 +130,9 @@ public:
                                ParameterPtr const& output);
 
     /// The merged words that the object was made with; may be empty.
-    PreferencesPtr const& preferences() const noexcept { return wishes_; }
+    PreferencesPtr const& preferences() const noexcept { return preferences_; }
+    /// The kind that the object was made with.
+    int kind() const noexcept { return kind_; }
 
     /// Tells the object its creator and the creator its object.
     void setCreator(WeakPtr<VCreatorBase, VManagedObjectBase> const& creator);
@@ -139,8 +150,14 @@ public:
     static AcceptList accept(ObjectPtr const& object);
 
 private:
+    using Asker = WeakPtr<VManagedObjectBase, VManagedObjectBase>;
+
+    ObjectPtr nextProvider(VRequest const& request, std::size_t& slotIndex) const;
+    void requestProviders(VRequest& request, double precision, Asker const& consumer);
+
     struct State;
-    PreferencesPtr wishes_;
+    int kind_;
+    PreferencesPtr preferences_;
     std::unique_ptr<State> state_;
 };
 

@@ -20,8 +20,12 @@ public:
     std::uint64_t number() const noexcept { return id_; }
 
 private:
+    friend class VObject;
+
     PoolPtr values_;
     std::uint64_t id_;
+    VObject const* due_ = nullptr;        ///< whose providers are done: its turn is next
+    VObject const* unchanged_ = nullptr;  ///< whose inputs were just found unchanged
 };
 
 }  // namespace Orlo

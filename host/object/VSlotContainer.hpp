@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "host/pointers/threads.hpp"
 #include "host/values/VSlot.hpp"
 
 namespace Orlo {
@@ -43,7 +44,8 @@ public:
     /// The latest age over the input slots in the pool.
     Nucleo::Ageable::Stamp age(PoolPtr const& pool) const;
     /// Whether the slot's value has changed since this object's last finished
-    /// update in the pool; true if there was none.
+    /// update in the pool; true if there was none. Only updates that `request` or
+    /// `unsychronized_update` ran are noted as finished.
     bool hasChanged(SlotPtr const& slot, PoolPtr const& pool) const;
 
     /// A number that no other container of the process has.

@@ -1,6 +1,7 @@
 /// The thread tags of the contract.
 ///
-/// Every virtual operation of `host/` ends its description with one of these:
+/// Every virtual operation of `host/`, and much else, ends its description with one
+/// of these; each header that uses them includes this one:
 ///
 ///   [loader]   on the thread that loads or unloads the plug-in, while the
 ///              operating system's loader serialises.

@@ -16,7 +16,7 @@ public:
     VEnumSelection();
     ~VEnumSelection() override;
 
-    /// Index of the selected word, or -1.
+    /// Index of the selected word, or -1. An index beyond the list selects none.
     int selection = -1;
 };
 
@@ -36,6 +36,8 @@ public:
     Enum& addCase(char const* word);
     Enum& addCase(std::string const& word);
 
+    /// Whether a word is selected.
+    bool hasSelection() const;
     /// Whether the given word is the selected one.
     bool Equal(std::string const& word) const;
     /// Whether both select the same word, or both none.

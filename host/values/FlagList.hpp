@@ -10,8 +10,8 @@ namespace Orlo {
 
 /// Flags by their words.
 ///
-/// The text form lists the words, each behind a separator; a leading minus
-/// turns a flag off: " -inverse".
+/// The text form lists the words, each behind the list's separator, a blank if
+/// nothing else is said; a leading minus turns a flag off: " -inverse".
 class QUARTZ_API FlagList : public std::map<std::string, bool> {
 public:
     FlagList();
@@ -21,6 +21,12 @@ public:
     /// The value of a flag. `known` becomes true if the list has the word and is
     /// left alone otherwise; an unknown flag is off.
     bool operator()(std::string const& word, bool& known) const;
+
+    /// What divides the words in the text form.
+    char separator() const noexcept { return separator_; }
+
+private:
+    char separator_ = ' ';
 };
 
 }  // namespace Orlo

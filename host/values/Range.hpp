@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/pointers/Functor.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Orlo {
 

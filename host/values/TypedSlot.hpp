@@ -6,6 +6,7 @@
 #include <string>
 
 #include "host/pointers/Auto.hpp"
+#include "host/pointers/threads.hpp"
 #include "host/values/VSlot.hpp"
 #include "host/values/VValueParameter.hpp"
 
@@ -81,18 +82,18 @@ public:
     }
 
     /// Gives the parameter a property such as "min". It is advice to the user
-    /// interface: no value is limited by it.
+    /// interface: no value is clamped by it.
     template <class P>
     void setProperty(std::string const& property, P const& value) {
-        VParameter& parameter = *hostSlot_->parameter();
-        if (ValueMap const* const properties = parameter.properties()) {
+        ParameterPtr const parameter = hostSlot_->parameter();
+        if (ValueMap const* const properties = parameter->properties()) {
             StrongPtr<VTypedValueBase<P>, VValueBase> const present(properties->getValue(property));
             if (present) {
                 present->setValue(value);
                 return;
             }
         }
-        parameter.setProperty(property, new VValue<P>(value), nullptr, nullptr, nullptr);
+        parameter->setProperty(property, new VValue<P>(value), nullptr, nullptr, nullptr);
     }
 
 private:

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/pointers/Intercube.hpp"
+#include "host/pointers/threads.hpp"
 #include "host/values/VCreationPreferences.hpp"
 #include "host/values/ValueNotifierList.hpp"
 
@@ -42,8 +43,11 @@ public:
     /// The value for a pool, made from the default if there is none. Empty for
     /// an empty pool. [any]
     virtual ValuePtr poolVariable(PoolPtr const& pool) const = 0;
-    /// Takes over a value as the parameter's own and stamps the value that
-    /// holds in the pool, or else the own one, with the present time. [host]
+    /// Takes over a value as the parameter's own, says so at verbosity 50, stamps
+    /// the value that holds in the pool, or else the own one, with the present
+    /// time, and gives true. A source of another type changes no value: whoever
+    /// does not know the type compares it first. False only where there is no
+    /// source or no own value. [host]
     virtual bool setGlobalValue(ValuePtr const& source, PoolPtr const& pool) = 0;
     /// A copy of the default value. [any]
     virtual ValuePtr copyOfDefault() const = 0;
@@ -77,7 +81,7 @@ public:
     std::string const& Name() const noexcept { return fullName_; }
     /// The name that the parameter was made with.
     std::string const& localName() const noexcept { return shortName_; }
-    PreferencesPtr const& preferences() const noexcept { return wishes_; }
+    PreferencesPtr const& preferences() const noexcept { return preferences_; }
 
     unsigned flags = KeepsLocalValues | Computed;
 
@@ -86,9 +90,9 @@ public:
 private:
     std::string shortName_;
     std::string fullName_;
-    ValuePtr standard_;
+    ValuePtr default_;
     ValuePtr own_;
-    PreferencesPtr wishes_;
+    PreferencesPtr preferences_;
     std::unique_ptr<ValueMap> propertyMap_;
 };
 
@@ -108,7 +112,7 @@ inline ValuePtr valueInPool(VParameter const& parameter, PoolPtr const& pool, bo
 /// there is no value or it is no `T`. [any]
 template <class T>
 bool readParameter(VParameter const& parameter, PoolPtr const& pool, T& target) {
-    WeakPtr<VTypedValueBase<T>, VValueBase> const typed(valueInPool(parameter, pool, false));
+    StrongPtr<VTypedValueBase<T>, VValueBase> const typed(valueInPool(parameter, pool, false));
     return typed && typed->getValue(target);
 }
 

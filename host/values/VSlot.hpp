@@ -1,9 +1,12 @@
 /// Slots: where an object and a parameter meet.
 #pragma once
 
+#include <atomic>
+#include <mutex>
 #include <string>
 #include <typeinfo>
 
+#include "host/pointers/threads.hpp"
 #include "host/values/VParameter.hpp"
 
 namespace Orlo {
@@ -15,7 +18,7 @@ namespace Orlo {
 /// provider; taking the connection away puts the own parameter back.
 ///
 /// Owner: counted, held by its container. Threads: connecting is [host], the
-/// rest [any].
+/// rest [any]; a provider may die on one thread while another one reads the slot.
 class LATTICE_API VSlot : public virtual VManagedObjectBase {
 public:
     using Ptr = StrongPtr<VSlot, VManagedObjectBase>;
@@ -28,29 +31,43 @@ public:
     int expertLevel() const noexcept { return level_; }
     bool isInput() const noexcept { return input_; }
 
-    /// The parameter in force: the provider's if connected, else the own one.
-    ParameterPtr const& parameter() const noexcept { return current_; }
+    /// The parameter in force: the provider's if connected, else the own one. The
+    /// result holds it, whatever becomes of the connection.
+    ParameterPtr parameter() const { return connected_ ? connection().parameter : own_; }
     ParameterPtr const& ownParameter() const noexcept { return own_; }
     /// The object that provides the parameter in force, if connected.
-    WeakPtr<VManagedObjectBase, VManagedObjectBase> const& provider() const noexcept {
-        return source_;
+    WeakPtr<VManagedObjectBase, VManagedObjectBase> provider() const {
+        return connected_ ? connection().provider
+                          : WeakPtr<VManagedObjectBase, VManagedObjectBase>();
     }
 
     void connect(ParameterPtr const& parameter,
                  WeakPtr<VManagedObjectBase, VManagedObjectBase> const& provider);
     void disconnect();
+    /// The same, if it is this one that provides.
+    void disconnectFrom(VManagedObjectBase const& provider);
 
     /// When the slot's value in the pool, or its connection, last changed.
     Nucleo::Ageable::Stamp age(PoolPtr const& pool) const;
 
 private:
+    /// What stands in the slot, and who provides it.
+    struct Connection {
+        ParameterPtr parameter;
+        WeakPtr<VManagedObjectBase, VManagedObjectBase> provider;
+    };
+
+    Connection connection() const;
+    void removeConnection(Nucleo::ControlBlock<VManagedObjectBase> const* provider);
+
     std::string slotName_;
     int level_;
     bool input_;
     ParameterPtr own_;
-    ParameterPtr current_;
-    WeakPtr<VManagedObjectBase, VManagedObjectBase> source_;
-    Nucleo::Ageable connected_;
+    mutable std::mutex mutex_;  ///< guards `current_`
+    Connection current_;
+    std::atomic<bool> connected_{false};
+    Nucleo::Ageable connectionAge_;  ///< when the connection last changed
 };
 
 using SlotPtr = VSlot::Ptr;

@@ -53,7 +53,8 @@ public:
     }
 
     bool getValue(T& target) const override {
-        target = value_;
+        if (&target != &value_)  // as `assign` of a value to itself has it
+            target = value_;
         return true;
     }
     bool setValue(T const& source) override {

@@ -8,6 +8,7 @@
 #include "host/pointers/Ageable.hpp"
 #include "host/pointers/Chunk.hpp"
 #include "host/pointers/Interface.hpp"
+#include "host/pointers/threads.hpp"
 #include "host/values/VManagedObjectBase.hpp"
 
 namespace Orlo {

@@ -6,6 +6,7 @@
 
 #include "host/pointers/Auto.hpp"
 #include "host/pointers/Typename.hpp"
+#include "host/pointers/threads.hpp"
 #include "host/values/VValueBase.hpp"
 
 namespace Orlo {

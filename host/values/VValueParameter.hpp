@@ -15,12 +15,12 @@ public:
 
     VValueParameter(StrongPtr<VValue<T>, VValueBase> const& defaultValue, std::string const& name,
                     PreferencesPtr const& preferences = nullptr)
-        : VParameter(defaultValue, name, preferences), initial_(defaultValue) {}
+        : VParameter(defaultValue, name, preferences), default_(defaultValue) {}
 
-    ValuePtr DefaultValue() const override { return initial_; }
+    ValuePtr DefaultValue() const override { return default_; }
 
     Ptr copy() const override {
-        StrongPtr<VValue<T>, VValueBase> const value(initial_->copy());
+        StrongPtr<VValue<T>, VValueBase> const value(default_->copy());
         Ptr const twin = new VValueParameter(value, localName(), preferences());
         twin->copyShadows(*this);
         return twin;
@@ -38,8 +38,9 @@ public:
 
     bool setGlobalValue(ValuePtr const& source, PoolPtr const& pool) override {
         TypedValue const own(ownValue());
-        if (!source || !own || !own->assign(source->component("")))
+        if (!source || !own)
             return false;
+        static_cast<void>(own->assign(source->component("")));  // of another type: stays as it is
         T now{};
         own->getValue(now);
         Vprintf(50, "VParameter::setGlobalValue() got variable with %s\n",
@@ -49,10 +50,10 @@ public:
         return true;
     }
 
-    ValuePtr copyOfDefault() const override { return initial_->copy(); }
+    ValuePtr copyOfDefault() const override { return default_->copy(); }
 
 private:
-    StrongPtr<VValue<T>, VValueBase> initial_;
+    StrongPtr<VValue<T>, VValueBase> default_;
 };
 
 }  // namespace Orlo

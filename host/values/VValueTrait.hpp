@@ -4,6 +4,7 @@
 #include <string>
 
 #include "host/colormap/rgba_float_t.hpp"
+#include "host/pointers/threads.hpp"
 #include "host/values/Enum.hpp"
 #include "host/values/FlagList.hpp"
 #include "host/values/Range.hpp"
@@ -42,15 +43,17 @@ struct QUARTZ_API VValueTrait<Tessar::rgba_float_t> {
 
 /// `no{no}{yes}`: the selected word, then every word in braces. On reading, a
 /// bare word selects among those that the value has; the long form makes a new
-/// list if the value has none, and must name the same words otherwise.
+/// list if the value has none, and must name the same words otherwise. No word in
+/// front of the braces selects none, or the empty word where the list has one.
 template <>
 struct QUARTZ_API VValueTrait<Enum> {
     static bool setValueFromText(Enum& value, std::string const& text);
     static std::string Text(Enum const& value);
 };
 
-/// ` -inverse`: each flag behind a blank. On reading, the text replaces the
-/// list; where the value has flags already, an unknown word is refused.
+/// ` -inverse`: each flag behind the separator of the list that is written or
+/// read into. On reading, the text replaces the list; where the value has flags
+/// already, an unknown word is refused.
 template <>
 struct QUARTZ_API VValueTrait<FlagList> {
     static bool setValueFromText(FlagList& value, std::string const& text);

@@ -1,10 +1,12 @@
 /// Who wants to hear of a value.
 #pragma once
 
+#include <cstddef>
 #include <mutex>
 #include <string>
 #include <vector>
 
+#include "host/pointers/threads.hpp"
 #include "host/values/ValuePool.hpp"
 
 namespace Orlo {
@@ -32,6 +34,7 @@ public:
     /// [host]
     virtual void touch();
 
+    /// Adds a listener; those that have died are forgotten.
     void addNotifier(WeakPtr<ValueNotifier, ValueNotifier> const& notifier);
     /// Remembers that the pool holds a value of this parameter.
     void addShadow(PoolPtr const& pool) const;
@@ -42,11 +45,13 @@ public:
     std::vector<PoolPtr> shadows() const;
 
 protected:
+    /// The listeners that are still alive.
     std::vector<StrongPtr<ValueNotifier, ValueNotifier>> listeners() const;
 
 private:
     mutable std::mutex mutex_;
     std::vector<WeakPtr<ValueNotifier, ValueNotifier>> notifiers_;
+    std::size_t notifiersAtNextSweep_ = 0;
     mutable std::vector<WeakPtr<ValuePool, ValuePool>> pools_;
 };
 

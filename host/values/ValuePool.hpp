@@ -5,6 +5,7 @@
 #include <mutex>
 #include <string>
 
+#include "host/pointers/threads.hpp"
 #include "host/values/VValueBase.hpp"
 
 namespace Orlo {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/pointers/import.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Orlo {
 

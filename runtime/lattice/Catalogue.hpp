@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/creators/VCreatorBase.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Orlo {
 

@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "host/pointers/import.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Orlo {
 

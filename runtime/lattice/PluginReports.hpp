@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "host/creators/VInitialization.hpp"
+#include "host/pointers/threads.hpp"
 
 namespace Orlo {
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "host/pointers/threads.hpp"
 #include "host/values/TypedSlot.hpp"
 
 namespace Orlo {

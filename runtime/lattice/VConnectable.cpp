@@ -8,6 +8,8 @@ void VConnectable::setup(VSlotSet const&) {}
 
 bool VConnectable::allowParameterReplacement(SlotPtr const& slot,
                                              ParameterPtr const& replacement) const {
+    if (!slot || !replacement)
+        return false;
     ValuePtr const ours = slot->ownParameter()->DefaultValue();
     ValuePtr const theirs = replacement->DefaultValue();
     return slot->isInput() && ours && theirs && ours->type() == theirs->type();
@@ -15,7 +17,7 @@ bool VConnectable::allowParameterReplacement(SlotPtr const& slot,
 
 bool VConnectable::connectSlots(SlotPtr const& input, VConnectable& provider,
                                 SlotPtr const& output) {
-    if (!allowParameterReplacement(input, output->parameter()))
+    if (!input || !output || !allowParameterReplacement(input, output->parameter()))
         return false;
     input->connect(output->parameter(), WeakPtr<VManagedObjectBase, VManagedObjectBase>(&provider));
     adjustConnections();

@@ -5,6 +5,7 @@
 
 #include "host/values/Vprintf.hpp"
 #include "runtime/lattice/CreatorRegistry.hpp"
+#include "runtime/lattice/addWeakly.hpp"
 
 namespace Orlo {
 
@@ -48,14 +49,16 @@ VInputCreatorBase::~VInputCreatorBase() = default;
 struct VCreatorBase::State {
     std::mutex mutex;
     std::vector<WeakObjectPtr> instances;
+    std::size_t instancesAtNextSweep = 0;
 };
 
 VCreatorBase::VCreatorBase(VCreatorProperties const& properties, int order,
-                           PreferencesPtr const& preferences, bool hidden, char const*)
+                           PreferencesPtr const& preferences, bool hidden, char const* token)
     : VCreatorProperties(properties),
       order_(order),
       hidden_(hidden),
-      wishes_(preferences),
+      preferences_(preferences),
+      token_(token),
       state_(std::make_unique<State>()) {
     setName(name());
     enter(WeakCreatorPtr(this));
@@ -80,8 +83,7 @@ std::string VCreatorBase::createChildname(WeakObjectPtr const& parent,
 
 void VCreatorBase::addInstance(WeakObjectPtr const& object) const {
     std::scoped_lock const lock(state_->mutex);
-    std::erase_if(state_->instances, [](auto const& each) { return !each; });
-    state_->instances.push_back(object);
+    addWeakly(state_->instances, object, state_->instancesAtNextSweep);
 }
 
 std::vector<WeakObjectPtr> VCreatorBase::instances() const {

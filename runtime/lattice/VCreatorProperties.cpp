@@ -8,9 +8,9 @@ VCreatorPropertyBase& VCreatorPropertyBase::operator=(VCreatorPropertyBase const
 VCreatorPropertyBase::~VCreatorPropertyBase() = default;
 
 VCreatorPropertyBase& VCreatorPropertyBase::assign(VCreatorPropertyBase const& other) {
-    for (std::size_t key = 0; key < elements_.size(); ++key)
-        if (!other.elements_[key].empty())
-            elements_[key] = other.elements_[key];
+    for (unsigned key = 0; key < KeyCount; ++key)
+        if (other.isSet(static_cast<Key>(key)))
+            set(key, other.get(static_cast<Key>(key)));
     return *this;
 }
 

@@ -1,5 +1,8 @@
 #include "host/object/VObject.hpp"
 
+#include <utility>
+#include <vector>
+
 #include "host/creators/VCreatorBase.hpp"
 
 namespace Orlo {
@@ -32,36 +35,81 @@ struct VObject::State {
     std::mutex update;  ///< one update of an object at a time
 };
 
-VObject::VObject(std::string const& name, int, PreferencesPtr const& preferences)
+VObject::VObject(std::string const& name, int kind, PreferencesPtr const& preferences)
     : VManagedDomainObject<VObject>(name),
-      wishes_(preferences),
+      kind_(kind),
+      preferences_(preferences),
       state_(std::make_unique<State>()) {}
 
 VObject::~VObject() = default;
 
-bool VObject::request(VRequest& request, double precision,
-                      WeakPtr<VManagedObjectBase, VManagedObjectBase> const&,
-                      WeakPtr<VManagedObjectBase, VManagedObjectBase> const& consumer) {
+bool VObject::request(VRequest& request, double precision, Asker const&, Asker const& consumer) {
+    bool const myTurn = std::exchange(request.due_, nullptr) == this;
     if (!state_->answersRequests)
         return false;
-    if (hasRequest(request))
+    if (!myTurn && hasRequest(request))
         return true;
-    rememberRequest(request);  // first, so that a request ends in a ring of objects
-    for (SlotPtr const& slot : slots())
-        if (ObjectPtr const provider(slot->provider()); provider && !ignoreInput(slot))
-            provider->request(request, precision, this, consumer);
+    if (!myTurn)
+        requestProviders(request, precision, consumer);
     std::scoped_lock const lock(state_->update);
     return unsychronized_update(request, precision);
 }
 
+/// The provider of the next input, from the given one on, that the request has
+/// still to reach; empty behind the last one.
+ObjectPtr VObject::nextProvider(VRequest const& request, std::size_t& slotIndex) const {
+    while (slotIndex < slots().size()) {
+        SlotPtr const& slot = slots()[slotIndex++];
+        ObjectPtr const provider(slot->provider());
+        if (provider && !ignoreInput(slot) && provider->state_->answersRequests &&
+            !provider->hasRequest(request))
+            return provider;
+    }
+    return nullptr;
+}
+
+/// Walks from this object up to everything that it depends on and has each object
+/// updated behind its own providers. The path is a list on the heap, since a chain
+/// may be longer than a thread's stack is deep. An object is marked when the walk
+/// reaches it, so that the walk ends in a ring of objects.
+void VObject::requestProviders(VRequest& request, double precision, Asker const& consumer) {
+    struct Step {
+        ObjectPtr held;
+        VObject* object;
+        std::size_t slotIndex = 0;
+    };
+    rememberRequest(request);
+    std::vector<Step> path;
+    path.push_back({nullptr, this});
+    while (true) {
+        Step& last = path.back();
+        if (ObjectPtr const provider = last.object->nextProvider(request, last.slotIndex)) {
+            provider->rememberRequest(request);
+            path.push_back({provider, provider.get()});
+            continue;
+        }
+        if (path.size() == 1)
+            return;
+        ObjectPtr const due = last.held;
+        path.pop_back();
+        request.due_ = due.get();
+        due->request(request, precision, path.back().object, consumer);
+    }
+}
+
 bool VObject::must_update(VRequest const& request, double) const {
-    return anyChanged(request.pool());
+    return request.unchanged_ != this && anyChanged(request.pool());
 }
 
 bool VObject::unsychronized_update(VRequest& request, double precision) {
     Nucleo::Ageable::Stamp const began = Nucleo::Ageable::now();
-    if (!must_update(request, precision) && !anyChanged(request.pool()))
-        return true;
+    if (!anyChanged(request.pool())) {
+        request.unchanged_ = this;  // so that `must_update` need not look at all inputs again
+        bool const must = must_update(request, precision);
+        request.unchanged_ = nullptr;
+        if (!must)
+            return true;
+    }
     bool const done = update(request, precision);
     if (done)
         updateFinished(request.pool(), began);
@@ -86,7 +134,7 @@ ObjectPtr VObject::copy() const {
     StrongPtr<VCreatorBase, VManagedObjectBase> const maker(state_->creator);
     if (!maker)
         return nullptr;
-    ObjectPtr const twin = maker->create(Name(), Nucleo::Intercube(), wishes_);
+    ObjectPtr const twin = maker->create(Name(), Nucleo::Intercube(), preferences_);
     for (SlotPtr const& mine : slots())
         if (SlotPtr const theirs = twin->slot(mine->name()); theirs && mine->isInput())
             theirs->ownParameter()->setGlobalValue(mine->ownParameter()->ownValue(), nullptr);

@@ -20,9 +20,9 @@ VParameter::VParameter(ValuePtr const& defaultValue, std::string const& name,
                        PreferencesPtr const& preferences)
     : shortName_(name),
       fullName_(unboundName(name)),
-      standard_(defaultValue),
+      default_(defaultValue),
       own_(defaultValue ? defaultValue->copy() : ValuePtr()),
-      wishes_(preferences) {}
+      preferences_(preferences) {}
 
 VParameter::~VParameter() {
     for (PoolPtr const& pool : shadows())
@@ -41,7 +41,7 @@ void VParameter::setCreator(VSlotContainer* owner) {
 }
 
 ValuePtr VParameter::DefaultValue() const {
-    return standard_;
+    return default_;
 }
 
 ValuePtr VParameter::getLocalValue(PoolPtr const& pool, std::string const& member,

@@ -2,43 +2,71 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 #include "host/object/VObject.hpp"
 #include "host/pointers/Typename.hpp"
+#include "runtime/lattice/AgedContent.hpp"
 #include "runtime/lattice/Connections.hpp"
 
 namespace Orlo {
 
 VSlot::VSlot(std::string const& name, int expertLevel, ParameterPtr const& parameter, bool input)
-    : slotName_(name), level_(expertLevel), input_(input), own_(parameter), current_(parameter) {}
+    : slotName_(name), level_(expertLevel), input_(input), own_(parameter) {}
 
 VSlot::~VSlot() {
     disconnect();
 }
 
+VSlot::Connection VSlot::connection() const {
+    std::scoped_lock const lock(mutex_);
+    return connected_ ? current_ : Connection{own_, nullptr};
+}
+
 void VSlot::connect(ParameterPtr const& parameter,
                     WeakPtr<VManagedObjectBase, VManagedObjectBase> const& provider) {
-    std::scoped_lock const lock(connections().mutex);
-    current_ = parameter;
-    source_ = provider;
-    connected_.touch();
-    connections().slots.insert(this);
+    disconnect();
+    {
+        std::scoped_lock const lock(mutex_);
+        current_ = {parameter, provider};
+        connected_ = true;
+    }
+    Connections::instance().add(provider.controlBlock(), this);
+    connectionAge_.touch();
 }
 
 void VSlot::disconnect() {
-    std::scoped_lock const lock(connections().mutex);
-    if (connections().slots.erase(this) == 0)
-        return;
-    current_ = own_;
-    source_ = nullptr;
-    connected_.touch();
+    removeConnection(nullptr);
+}
+
+void VSlot::disconnectFrom(VManagedObjectBase const& provider) {
+    removeConnection(provider.controlBlock());
+}
+
+/// Takes the connection away; if a provider is given, only one to that.
+void VSlot::removeConnection(Nucleo::ControlBlock<VManagedObjectBase> const* provider) {
+    Connection former;  // dies behind the lock
+    {
+        std::scoped_lock const lock(mutex_);
+        auto const* const present = current_.provider.controlBlock();
+        if (!connected_ || (provider != nullptr && provider != present))
+            return;
+        former = std::exchange(current_, {});
+        connected_ = false;
+    }
+    Connections::instance().remove(former.provider.controlBlock(), this);
+    connectionAge_.touch();
 }
 
 Nucleo::Ageable::Stamp VSlot::age(PoolPtr const& pool) const {
-    ValuePtr const value = valueInPool(*current_, pool, false);
-    Nucleo::Ageable const* const stamp =
-        value ? static_cast<VValueBase const&>(*value).ageable() : nullptr;
-    return std::max(connected_.age(), stamp != nullptr ? stamp->age() : 0);
+    Nucleo::Ageable::Stamp const connectionAge = connectionAge_.age();
+    ValuePtr const held = valueInPool(*parameter(), pool, false);
+    if (!held)
+        return connectionAge;
+    VValueBase const& value = *held;
+    auto const* const content = dynamic_cast<AgedContent const*>(&value);
+    return std::max({connectionAge, value.ageable()->age(),
+                     content != nullptr ? content->contentAge() : Nucleo::Ageable::Stamp{0}});
 }
 
 VSlotContainer* VSlotGlobals::containerOf(VObject* object) {

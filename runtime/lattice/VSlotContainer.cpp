@@ -36,16 +36,8 @@ VSlotContainer::VSlotContainer() : state_(std::make_unique<State>()) {
 }
 
 VSlotContainer::~VSlotContainer() {
-    std::vector<StrongPtr<VSlot, VManagedObjectBase>> consumers;
-    {
-        std::scoped_lock const lock(connections().mutex);
-        for (VSlot* const slot : connections().slots)
-            if (slot->provider().controlBlock() == controlBlock())
-                consumers.emplace_back(slot);
-    }
-    for (auto const& slot : consumers)
-        if (slot)
-            slot->disconnect();
+    for (SlotPtr const& consumer : Connections::instance().consumers(controlBlock()))
+        consumer->disconnectFrom(*this);
 }
 
 std::vector<SlotPtr> const& VSlotContainer::slots() const noexcept {

@@ -1,5 +1,7 @@
 #include "host/values/ValueNotifierList.hpp"
 
+#include "runtime/lattice/addWeakly.hpp"
+
 namespace Orlo {
 
 ValueNotifier::~ValueNotifier() = default;
@@ -13,7 +15,7 @@ void ValueNotifierList::touch() {
 
 void ValueNotifierList::addNotifier(WeakPtr<ValueNotifier, ValueNotifier> const& notifier) {
     std::scoped_lock const lock(mutex_);
-    notifiers_.push_back(notifier);
+    addWeakly(notifiers_, notifier, notifiersAtNextSweep_);
 }
 
 void ValueNotifierList::addShadow(PoolPtr const& pool) const {
@@ -31,8 +33,8 @@ std::vector<PoolPtr> ValueNotifierList::shadows() const {
     std::scoped_lock const lock(mutex_);
     std::vector<PoolPtr> alive;
     for (auto const& pool : pools_)
-        if (pool)
-            alive.emplace_back(pool);
+        if (PoolPtr const held(pool); held)  // held first: it may go on another thread
+            alive.push_back(held);
     return alive;
 }
 
@@ -40,8 +42,8 @@ std::vector<StrongPtr<ValueNotifier, ValueNotifier>> ValueNotifierList::listener
     std::scoped_lock const lock(mutex_);
     std::vector<StrongPtr<ValueNotifier, ValueNotifier>> alive;
     for (auto const& notifier : notifiers_)
-        if (notifier)
-            alive.emplace_back(notifier);
+        if (StrongPtr<ValueNotifier, ValueNotifier> const held(notifier); held)
+            alive.push_back(held);
     return alive;
 }
 

@@ -24,21 +24,22 @@ Enum& Enum::addCase(char const* word) {
     return addCase(std::string(word));
 }
 
+bool Enum::hasSelection() const {
+    VEnumSelection const* const words = get();
+    return words != nullptr && words->selection >= 0 &&
+           static_cast<std::size_t>(words->selection) < words->size();
+}
+
 bool Enum::Equal(std::string const& word) const {
-    return get() != nullptr && get()->selection >= 0 && selected() == word;
+    return hasSelection() && selected() == word;
 }
 
 bool Enum::operator==(Enum const& other) const {
-    bool const mine = get() != nullptr && get()->selection >= 0;
-    bool const theirs = other.get() != nullptr && other.get()->selection >= 0;
-    return mine == theirs && selected() == other.selected();
+    return hasSelection() == other.hasSelection() && selected() == other.selected();
 }
 
 std::string Enum::selected() const {
-    VEnumSelection const* const words = get();
-    if (words == nullptr || words->selection < 0)
-        return {};
-    return *std::next(words->begin(), words->selection);
+    return hasSelection() ? *std::next(get()->begin(), get()->selection) : std::string();
 }
 
 Enum Enum::select(std::string const& word) const {

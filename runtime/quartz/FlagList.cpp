@@ -6,7 +6,7 @@ namespace Orlo {
 
 FlagList::FlagList() = default;
 
-FlagList::FlagList(std::string const& text, char separator) {
+FlagList::FlagList(std::string const& text, char separator) : separator_(separator) {
     for (std::string_view word : splitWords(text, separator)) {
         bool const on = word.front() != '-';
         if (!on)

@@ -19,7 +19,7 @@ bool readWhole(Number& value, std::string const& text) {
     return true;
 }
 
-/// The words in braces at the reader's place; false if they are malformed.
+/// The words in braces at the reader's position; false if they are malformed.
 bool readCases(TextReader& reader, Enum& words) {
     while (reader.literal('{')) {
         words.addCase(std::string(reader.until("{}")));
@@ -73,19 +73,21 @@ bool VValueTrait<Enum>::setValueFromText(Enum& value, std::string const& text) {
     if (!readCases(reader, words))
         return false;
     bool const bare = !words;
-    if (bare && word.empty())  // an empty word cannot be chosen, since it means none
-        return !value || value->empty();
-    if (bare ? !value : value && !sameWords(value, words))
+    if (bare && !value)
+        return word.empty();
+    if (!bare && value && !sameWords(value, words))
         return false;
-    if (word.empty() && !bare) {
-        words->selection = -1;
-        value = words;
+    Enum const chosen = (bare ? value : words).select(word);
+    if (chosen) {
+        value = chosen;
         return true;
     }
-    Enum const chosen = (bare ? value : words).select(word);
-    if (!chosen)
+    if (!word.empty() || (bare && !value->empty()))
         return false;
-    value = chosen;
+    if (!bare) {  // no word in front of the braces, and none of them empty
+        words->selection = -1;
+        value = words;
+    }
     return true;
 }
 std::string VValueTrait<Enum>::Text(Enum const& value) {
@@ -97,7 +99,7 @@ std::string VValueTrait<Enum>::Text(Enum const& value) {
 }
 
 bool VValueTrait<FlagList>::setValueFromText(FlagList& value, std::string const& text) {
-    for (std::string_view word : splitWords(text, ' ')) {
+    for (std::string_view word : splitWords(text, value.separator())) {
         if (word.front() == '-')
             word.remove_prefix(1);
         if (word.empty() || word.front() == '-')
@@ -105,13 +107,13 @@ bool VValueTrait<FlagList>::setValueFromText(FlagList& value, std::string const&
         if (!value.empty() && !value.contains(std::string(word)))
             return false;
     }
-    value = FlagList(text, ' ');
+    value = FlagList(text, value.separator());
     return true;
 }
 std::string VValueTrait<FlagList>::Text(FlagList const& value) {
     std::string text;
     for (auto const& [word, on] : value)
-        text += (on ? " " : " -") + word;
+        text += value.separator() + (on ? word : "-" + word);
     return text;
 }
 

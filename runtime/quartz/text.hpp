@@ -9,7 +9,7 @@
 namespace Orlo {
 
 /// A reader that walks over a text. Every step takes what it names from the
-/// front, or fails and leaves the place as it was.
+/// front, or fails and leaves the position as it was.
 class TextReader {
 public:
     explicit TextReader(std::string_view text) : rest_(text) {}

@@ -50,16 +50,10 @@ bool ColormapValue::setValue(ColormapPtr const& source) {
     return VValue::setValue(source);
 }
 
-Nucleo::Ageable* ColormapValue::ageable() {
+Nucleo::Ageable::Stamp ColormapValue::contentAge() const {
     ColormapPtr map;
     getValue(map);
-    return map ? static_cast<Nucleo::Ageable*>(map.get()) : this;
-}
-
-Nucleo::Ageable const* ColormapValue::ageable() const {
-    ColormapPtr map;
-    getValue(map);
-    return map ? static_cast<Nucleo::Ageable const*>(map.get()) : this;
+    return map ? map->age() : 0;
 }
 
 ParameterPtr makeColormapParameter(std::string const& name) {

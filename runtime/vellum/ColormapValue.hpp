@@ -4,7 +4,9 @@
 #include <mutex>
 
 #include "host/colormap/Colormap.hpp"
+#include "host/pointers/threads.hpp"
 #include "host/values/VValueParameter.hpp"
+#include "runtime/lattice/AgedContent.hpp"
 
 namespace Orlo {
 
@@ -17,12 +19,12 @@ struct VELLUM_API VValueTrait<ColormapPtr> {
     static std::string Text(ColormapPtr const& value);
 };
 
-/// The value of a colour-map output or input. Its age is that of the map, since
-/// maps are rewritten in place.
+/// The value of a colour-map output or input. The age of its content is that of the
+/// map, since maps are rewritten in place.
 ///
 /// Threads: a consumer may read the value while an update puts another map in
 /// it, and gets the one or the other.
-class VELLUM_API ColormapValue : public VValue<ColormapPtr> {
+class VELLUM_API ColormapValue : public VValue<ColormapPtr>, public AgedContent {
 public:
     ColormapValue();
     explicit ColormapValue(ColormapPtr const& map);
@@ -33,8 +35,8 @@ public:
     bool differs(ValuePtr const& other) const override;
     bool getValue(ColormapPtr& target) const override;
     bool setValue(ColormapPtr const& source) override;
-    Nucleo::Ageable* ageable() override;
-    Nucleo::Ageable const* ageable() const override;
+    /// The age of the map. [any]
+    Nucleo::Ageable::Stamp contentAge() const override;
 
 private:
     mutable std::mutex mutex_;  ///< guards the pointer, not the map

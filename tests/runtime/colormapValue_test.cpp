@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "host/values/VSlot.hpp"
+
 namespace tests {
 namespace {
 
@@ -18,14 +20,30 @@ public:
     std::intptr_t getExtra() const override { return 0; }
 };
 
-TEST(ColormapValues, HaveTheAgeOfTheirMap) {
-    ColormapPtr const map = new Black;
+TEST(ColormapValues, GiveTheAddressOfTheirOwnStampAndTheAgeOfTheirMap) {
+    ColormapPtr map = new Black;
     StrongPtr<ColormapValue, VValueBase> const value = new ColormapValue(map);
+    VValueBase const& base = *value;
+    Nucleo::Ageable const* const own = value.get();
     map->touch();
-    EXPECT_EQ(static_cast<VValueBase&>(*value).ageable()->age(), map->age());
+    EXPECT_EQ(base.ageable(), own) << "whatever becomes of the map";
+    EXPECT_EQ(value->contentAge(), map->age());
+    EXPECT_LT(own->age(), map->age());
     value->setValue(nullptr);
-    EXPECT_LT(static_cast<VValueBase const&>(*value).ageable()->age(), map->age())
-        << "without a map, their own";
+    EXPECT_EQ(base.ageable(), own);
+    EXPECT_EQ(value->contentAge(), 0u);
+}
+
+TEST(SlotsOfColormaps, HaveTheAgeOfTheMapOrOfTheValueWhicheverIsLater) {
+    ColormapPtr const map = new Black;
+    ParameterPtr const parameter = makeColormapParameter("colormap");
+    SlotPtr const slot = new VSlot("colormap", 0, parameter, true);
+    (StrongPtr<VTypedValueBase<ColormapPtr>, VValueBase>(parameter->ownValue()))->setValue(map);
+    map->touch();
+    EXPECT_EQ(slot->age(nullptr), map->age());
+    parameter->touch();
+    EXPECT_EQ(slot->age(nullptr), Nucleo::Ageable::now());
+    EXPECT_LT(map->age(), Nucleo::Ageable::now()) << "the map itself has not changed";
 }
 
 TEST(ColormapValues, CopiedShareTheMap) {

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
+#include <regex>
 #include <set>
 #include <string>
 
@@ -36,6 +38,40 @@ TEST(RuntimeSources, AreNamedAfterAHeaderOfTheContractOrOneBesideThem) {
                                    "what the header beside it declares";
     }
     EXPECT_GT(sources, 30);
+}
+
+/// What waits on an atomic inside the C++ library, which loses wake-ups on Windows:
+/// barriers, latches, semaphores, and the atomics' own `wait`. What waits on a
+/// condition variable has another `notify_one`.
+bool waitsOnAnAtomic(std::string const& text) {
+    static std::regex const types(
+        R"(std::(barrier|latch|counting_semaphore|binary_semaphore)\b|#include <(barrier|latch|semaphore)>)");
+    static std::regex const notifications(
+        R"(\batomic_(flag_)?(wait|notify)|\.(notify_one|notify_all)\(|\.wait\()");
+    return std::regex_search(text, types) || (std::regex_search(text, notifications) &&
+                                              text.find("condition_variable") == std::string::npos);
+}
+
+TEST(Sources, WaitOnNothingThatLosesWakeUpsOnWindows) {
+    EXPECT_TRUE(waitsOnAnAtomic("std::barrier together(2);"));
+    EXPECT_TRUE(waitsOnAnAtomic("#include <semaphore>"));
+    EXPECT_TRUE(waitsOnAnAtomic("flag.wait(false);"));
+    EXPECT_FALSE(waitsOnAnAtomic("std::condition_variable change; change.wait(lock);"));
+    int sources = 0;
+    for (char const* const folder :
+         {"benchmarks", "entry", "fuzz", "host", "prism", "runtime", "tests", "workbench"})
+        for (auto const& entry : fs::recursive_directory_iterator(Root / folder)) {
+            std::string const ending = entry.path().extension().string();
+            if ((ending != ".cpp" && ending != ".hpp") ||
+                entry.path().filename() == "sources_test.cpp")
+                continue;
+            ++sources;
+            std::ifstream file(entry.path());
+            std::string const text(std::istreambuf_iterator<char>(file), {});
+            std::string const code = std::regex_replace(text, std::regex("//[^\n]*"), "");
+            EXPECT_FALSE(waitsOnAnAtomic(code)) << entry.path();
+        }
+    EXPECT_GT(sources, 200);
 }
 
 }  // namespace

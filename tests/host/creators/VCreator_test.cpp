@@ -2,7 +2,10 @@
 /// program's own.
 #include <gmock/gmock.h>
 
+#include <functional>
+#include <memory>
 #include <stdexcept>
+#include <vector>
 
 #include "host/creators/VSource.hpp"
 #include "host/object/Tincture.hpp"
@@ -15,7 +18,9 @@ namespace tests {
 namespace {
 
 using namespace Orlo;
+using testing::Contains;
 using testing::ElementsAre;
+using testing::Not;
 using testing::internal::CaptureStdout;
 using testing::internal::GetCapturedStdout;
 
@@ -239,6 +244,67 @@ TEST_F(Creators, TellListenersOfTheObjectItsContextAndThemselves) {
     EXPECT_EQ(listener.creators[0].get(), &entry);
 }
 
+/// Does something when it hears a warning.
+class Acting : public VActionNotifier {
+public:
+    void warned(std::string const&) override {
+        ++heard;
+        if (act)
+            act();
+    }
+    int heard = 0;
+    std::function<void()> act;
+};
+
+TEST(Listeners, MayGoWhileTheyHear) {
+    auto first = std::make_unique<Acting>(), second = std::make_unique<Acting>();
+    auto self = std::make_unique<Acting>();
+    Acting last;
+    first->act = [&] { second.reset(); };
+    self->act = [&] { self.reset(); };
+    VActionNotifier::Warning("one");
+    EXPECT_EQ(first->heard, 1);
+    EXPECT_FALSE(second) << "destroyed before it would have heard";
+    EXPECT_FALSE(self);
+    EXPECT_EQ(last.heard, 1) << "nobody is left out";
+    VActionNotifier::Warning("two");
+    EXPECT_EQ(first->heard, 2);
+    EXPECT_EQ(last.heard, 2);
+}
+
+TEST(Listeners, WhoComeWhileOthersHearHearTheNextNews) {
+    std::vector<std::unique_ptr<Acting>> newcomers;
+    Acting first;
+    first.act = [&] {
+        for (int i = 0; i < 100; ++i)
+            newcomers.push_back(std::make_unique<Acting>());
+        first.act = nullptr;
+    };
+    VActionNotifier::Warning("one");
+    ASSERT_EQ(newcomers.size(), 100u);
+    EXPECT_EQ(newcomers.back()->heard, 0);
+    VActionNotifier::Warning("two");
+    EXPECT_EQ(newcomers.back()->heard, 1);
+}
+
+TEST_F(Creators, KeepTheTokenThatTheyWereBuiltAgainst) {
+    Entry const entry;
+    EXPECT_STREQ(entry.token(), "TELM_API_VERSION");
+    char const other[] = "another interface";
+    TintSource const foreign(std::string("Tests/Foreign"), 0, nullptr, false, other);
+    EXPECT_EQ(foreign.token(), other);
+}
+
+TEST_F(Creators, KeepEveryLivingObjectInMindAmongManyDeadOnes) {
+    Entry const entry;
+    std::vector<ObjectPtr> kept;
+    for (int i = 0; i < 100; ++i) {
+        kept.push_back(entry.create("kept", Nucleo::Intercube(), nullptr));
+        entry.create("dropped", Nucleo::Intercube(), nullptr);
+    }
+    EXPECT_EQ(entry.instances().size(), kept.size());
+}
+
 TEST_F(Creators, HaveTheirObjectsReadyWhenTheyTellOfThem) {
     class Asking : public VActionNotifier {
     public:
@@ -329,8 +395,8 @@ TEST_F(Creators, DeleteTheirObjectsWhoeverHoldsThemWhenTheyGo) {
     EXPECT_FALSE(first) << "the holder finds its pointer empty";
     EXPECT_FALSE(second);
     EXPECT_FALSE(creator);
-    EXPECT_TRUE(inputCreators(typeid(ColormapPtr)).empty() ||
-                findCreator("Tests/Tint").get() == nullptr);
+    EXPECT_THAT(keys(), Not(Contains("Tests/Tint")));
+    EXPECT_TRUE(inputCreators(typeid(ColormapPtr)).empty()) << "and no input creator is left";
 }
 
 TEST_F(Creators, LeaveTheObjectsOfOthersAlone) {
@@ -396,6 +462,16 @@ TEST(CreatorProperties, TakeOverOnlyWhatIsSet) {
     EXPECT_EQ(list.keyname("::"), "Folder::Name");
     list.assign(NameIs("Other"));
     EXPECT_EQ(list.keyname("/"), "Folder/Other");
+}
+
+TEST(CreatorProperties, TellAnEmptyTextFromOneThatIsNotSet) {
+    VCreatorProperties const list(DescriptionIs(""), NameIs("Name"));
+    EXPECT_TRUE(list.isSet(VCreatorPropertyElements::Description));
+    EXPECT_FALSE(list.isSet(VCreatorPropertyElements::Tags));
+    EXPECT_EQ(list.get(VCreatorPropertyElements::Description), "");
+    EXPECT_EQ(list.get(VCreatorPropertyElements::Tags), "");
+    VCreatorProperties const later(DescriptionIs("text"), DescriptionIs(""));
+    EXPECT_EQ(later.get(VCreatorPropertyElements::Description), "") << "the last one holds";
 }
 
 TEST(CreatorProperties, WithoutACategoryHaveTheNameAsTheirKey) {

@@ -12,7 +12,7 @@ namespace tests {
 /// into the other. It counts its updates.
 class Node : public Orlo::VObject {
 public:
-    explicit Node(std::string const& name = "node") : VObject(name, 0, nullptr) {
+    explicit Node(std::string const& name = "node", int kind = 0) : VObject(name, kind, nullptr) {
         Orlo::registerValueTypes<double>();
         Orlo::StrongPtr<Orlo::VValue<double>, Orlo::VValueBase> const value =
             new Orlo::VValue<double>(0.0);

@@ -136,6 +136,18 @@ TEST(VirtualBases, DieInReverseTheCountedOneLast) {
     EXPECT_TRUE(countedStands) << "the slots die with the connectable base, before the counted one";
 }
 
+static_assert(std::is_same_v<std::underlying_type_t<VObject::HelpType>, int>,
+              "every number is a value of it");
+
+TEST(Object, KeepsTheKindThatItWasMadeWith) {
+    class Kind : public Node {
+    public:
+        explicit Kind(int kind) : Node("node", kind) {}
+    };
+    EXPECT_EQ(NodePtr(new Kind(0))->kind(), 0);
+    EXPECT_EQ(NodePtr(new Kind(7))->kind(), 7);
+}
+
 TEST(Object, HasNoIconHelpStateOrOwnerOfItsOwn) {
     NodePtr const node = new Node("name");
     EXPECT_EQ(node->Name(), "name");
@@ -237,6 +249,79 @@ TEST_F(Requests, EndInARing) {
     first_->slot("in")->disconnect();
 }
 
+TEST_F(Requests, RunAlongChainsLongerThanAnyStackIsDeep) {
+    constexpr std::size_t length = 100000;
+    std::vector<NodePtr> chain;
+    chain.reserve(length);
+    for (std::size_t i = 0; i < length; ++i) {
+        chain.emplace_back(new Node);
+        chain.back()->enableRequestProcessing();
+        if (i > 0) {
+            ASSERT_TRUE(connect(*chain[i], *chain[i - 1]));
+        }
+    }
+    EXPECT_TRUE(ask(*chain.back(), pool_));
+    EXPECT_TRUE(ask(*chain.back(), pool_));
+    for (NodePtr const& node : chain)
+        ASSERT_EQ(node->updates, 1);
+    for (std::size_t i = 0; i < length / 2; ++i)
+        chain[i] = nullptr;  // providers first,
+    while (!chain.empty())
+        chain.pop_back();  // and consumers first
+}
+
+/// A node that does something of its own with each request.
+class Asked : public Node {
+public:
+    bool request(VRequest& request, double precision,
+                 WeakPtr<VManagedObjectBase, VManagedObjectBase> const& asker,
+                 WeakPtr<VManagedObjectBase, VManagedObjectBase> const& consumer) override {
+        ++requests;
+        lastAsker = asker;
+        lastConsumer = consumer;
+        return Node::request(request, precision, asker, consumer);
+    }
+    int requests = 0;
+    WeakPtr<VManagedObjectBase, VManagedObjectBase> lastAsker, lastConsumer;
+};
+
+TEST_F(Requests, ReachAProviderThroughItsOwnOperation) {
+    StrongPtr<Asked, VManagedObjectBase> const provider = new Asked;
+    provider->enableRequestProcessing();
+    connect(*provider, *first_);
+    connect(*second_, *provider);
+    connect(*third_, *second_);
+    VRequest request(pool_);
+    EXPECT_TRUE(third_->request(request, 0.5, nullptr, third_));
+    EXPECT_EQ(provider->requests, 1);
+    EXPECT_TRUE(provider->lastAsker == second_);
+    EXPECT_TRUE(provider->lastConsumer == third_);
+    EXPECT_EQ(provider->updates, 1);
+    EXPECT_EQ(provider->lastPrecision, 0.5);
+    EXPECT_EQ(third_->result(pool_), 16);
+}
+
+TEST_F(Requests, UpdateEachMemberOfARingOnceAndTheProvidersBehindItToo) {
+    connect(*second_, *first_);
+    connect(*first_, *third_);
+    connect(*third_, *second_);
+    std::string order;
+    first_->atUpdate = [&] { order += "1"; };
+    second_->atUpdate = [&] { order += "2"; };
+    third_->atUpdate = [&] { order += "3"; };
+    EXPECT_TRUE(ask(*second_, pool_));
+    EXPECT_EQ(order, "312");
+    first_->slot("in")->disconnect();
+}
+
+TEST_F(Requests, PassAProviderByThatAnswersNone) {
+    NodePtr const silent = new Node;
+    connect(*second_, *silent);
+    EXPECT_TRUE(ask(*second_, pool_));
+    EXPECT_EQ(silent->updates, 0);
+    EXPECT_EQ(second_->updates, 1);
+}
+
 TEST_F(Requests, PassIgnoredInputsBy) {
     connect(*second_, *first_);
     second_->ignores = true;
@@ -277,6 +362,75 @@ TEST_F(Requests, FromManyThreadsRunOneUpdateAtATime) {
 }
 
 // --- Changes
+
+/// A value that counts how often its age is asked for.
+class Watched : public VValue<double> {
+public:
+    using VValue<double>::VValue;
+    using VValue<double>::ageable;
+    ValuePtr copy() const override { return new Watched(*this); }
+    Ageable const* ageable() const override {
+        ++asked;
+        return VValue<double>::ageable();
+    }
+    static inline int asked = 0;
+};
+
+TEST_F(Requests, AskForTheAgeOfEachInputOnce) {
+    StrongPtr<VValue<double>, VValueBase> const value = new Watched(1.0);
+    ParameterPtr const parameter = new VValueParameter<double>(value, "watched");
+    VSlotGlobals::addParameter(first_.get(), "watched", 0, parameter, true);
+    ask(*first_, pool_);
+    for (bool const changed : {false, true}) {
+        if (changed)
+            set(*first_, "in", "5");
+        Watched::asked = 0;
+        ask(*first_, pool_);
+        EXPECT_EQ(Watched::asked, 1) << (changed ? "with" : "without") << " a change";
+    }
+    EXPECT_EQ(first_->updates, 2);
+}
+
+TEST_F(Requests, AskWhetherAnUpdateIsDueWhenNoInputHasChanged) {
+    class Wanting : public Node {
+    public:
+        bool must_update(VRequest const&, double) const override { return wants; }
+        bool wants = false;
+    };
+    StrongPtr<Wanting, VManagedObjectBase> const node = new Wanting;
+    node->enableRequestProcessing();
+    ask(*node, pool_);
+    EXPECT_EQ(node->updates, 1) << "the first time, though it does not want to";
+    ask(*node, pool_);
+    EXPECT_EQ(node->updates, 1);
+    node->wants = true;
+    ask(*node, pool_);
+    EXPECT_EQ(node->updates, 2);
+    node->wants = false;
+    set(*node, "in", "5");
+    ask(*node, pool_);
+    EXPECT_EQ(node->updates, 3) << "an input has changed, whatever it wants";
+}
+
+TEST_F(Requests, FindAnUpdateDueWhileAnInputHasChangedSinceTheLastOne) {
+    VRequest const request(pool_);
+    EXPECT_TRUE(first_->must_update(request, 0)) << "there was none";
+    ask(*first_, pool_);
+    EXPECT_FALSE(first_->must_update(request, 0));
+    set(*first_, "in", "5");
+    EXPECT_TRUE(first_->must_update(request, 0));
+    ask(*first_, pool_);
+    EXPECT_FALSE(first_->must_update(request, 0));
+    EXPECT_TRUE(first_->must_update(VRequest(makePool()), 0)) << "none in that pool";
+}
+
+TEST_F(Requests, NoteAsFinishedOnlyTheUpdatesThatTheyRan) {
+    forceUpdate(*first_, pool_);
+    EXPECT_TRUE(first_->hasChanged(first_->slot("in"), pool_)) << "a bare call is not noted";
+    VRequest request(pool_);
+    first_->unsychronized_update(request, 0);
+    EXPECT_FALSE(first_->hasChanged(first_->slot("in"), pool_));
+}
 
 TEST_F(Requests, NoteWhatHasChangedSinceTheLastFinishedUpdateInThePool) {
     SlotPtr const in = first_->slot("in");
@@ -344,6 +498,26 @@ TEST_F(Requests, RefuseConnectionsOfOtherTypesAndOfOutputs) {
     EXPECT_FALSE(first_->connectSlots(first_->slot("out"), *second_, second_->slot("out")));
     EXPECT_TRUE(
         first_->allowParameterReplacement(first_->slot("in"), second_->slot("out")->parameter()));
+}
+
+TEST_F(Requests, RefuseAConnectionThatLacksASlot) {
+    SlotPtr const in = second_->slot("in"), out = first_->slot("out"), none;
+    EXPECT_FALSE(second_->connectSlots(none, *first_, out));
+    EXPECT_FALSE(second_->connectSlots(in, *first_, none));
+    EXPECT_FALSE(second_->connectSlots(second_->slot("no such"), *first_, first_->slot("slot")));
+    EXPECT_FALSE(second_->allowParameterReplacement(none, out->parameter()));
+    EXPECT_FALSE(second_->allowParameterReplacement(in, nullptr));
+    EXPECT_FALSE(in->provider());
+}
+
+TEST_F(Requests, LetAConnectionGiveWayToAnother) {
+    connect(*third_, *first_);
+    connect(*third_, *second_);
+    SlotPtr const in = third_->slot("in");
+    first_ = nullptr;
+    EXPECT_EQ(in->provider().get(), second_.get()) << "the former provider takes nothing with it";
+    second_ = nullptr;
+    EXPECT_EQ(in->parameter().get(), in->ownParameter().get());
 }
 
 TEST_F(Requests, FindTheOwnParameterAgainWhenTheProviderIsGone) {

@@ -1,10 +1,15 @@
 /// Parameters, pools, and the rules of reading.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <functional>
+#include <vector>
+
 #include "host/values/VValueParameter.hpp"
 #include "runtime/lattice/Diagnostics.hpp"
 #include "tests/host/values/sixTypes.hpp"
 #include "tests/support/DiagnosticText.hpp"
+#include "tests/support/RecordingSpeaker.hpp"
 #include "tests/support/virtualSlot.hpp"
 
 namespace tests {
@@ -133,11 +138,32 @@ TEST(GlobalSet, MakesNoValueInThePool) {
     EXPECT_EQ(values->size(), 0u);
 }
 
-TEST(GlobalSet, RefusesAnotherTypeAndNothing) {
+TEST(GlobalSet, OfAnotherTypeChangesNoValueButIsSaidStampedAndTaken) {
     auto const parameter = doubleParameter(1);
-    EXPECT_FALSE(parameter->setGlobalValue(new VValue<int>(2), nullptr));
-    EXPECT_FALSE(parameter->setGlobalValue(nullptr, nullptr));
+    Ageable::GlobalTime.fetch_add(3);
+    DiagnosticText const text(50);
+    EXPECT_TRUE(parameter->setGlobalValue(new VValue<int>(2), nullptr));
+    EXPECT_EQ(text.text(), "VParameter::setGlobalValue() got variable with 1\n");
     EXPECT_EQ(numberIn(parameter->ownValue()), 1);
+    EXPECT_EQ(parameter->ownValue()->ageable()->age(), Ageable::now());
+}
+
+TEST(GlobalSet, OfNothingOrWithoutAnOwnValueIsRefused) {
+    DiagnosticText const text(50);
+    EXPECT_FALSE(doubleParameter(1)->setGlobalValue(nullptr, nullptr));
+    VValueParameter<double> empty(Double(), "nothing");
+    EXPECT_FALSE(empty.setGlobalValue(new VValue<double>(2), nullptr));
+    EXPECT_EQ(text.text(), "");
+}
+
+TEST(GlobalSet, OfAChoiceToItsOwnValueIsNoMisuseOfPointers) {
+    RecordingSpeaker const speaker;
+    StrongPtr<VValue<Enum>, VValueBase> const standard =
+        new VValue<Enum>(Enum().addCase("no").addCase("yes"));
+    ParameterPtr const parameter = new VValueParameter<Enum>(standard, "choice");
+    EXPECT_TRUE(parameter->setGlobalValue(parameter->ownValue(), nullptr));
+    EXPECT_EQ(parameter->ownValue()->text(), "no{no}{yes}");
+    EXPECT_TRUE(speaker.reports.empty());
 }
 
 TEST(ParameterTouch, AdvancesTheTimeAndStampsTheOwnValue) {
@@ -225,6 +251,28 @@ TEST_F(Reading, WithAFailedCastLeavesTheTarget) {
     EXPECT_EQ(text, "before");
 }
 
+/// A value that is taken out of its pool while it is read.
+class LeavingValue : public VValue<double> {
+public:
+    using VValue<double>::VValue;
+    bool getValue(double& target) const override {
+        leave();
+        aliveAfterwards = controlBlock()->alive();
+        return VValue<double>::getValue(target);
+    }
+    std::function<void()> leave;
+    static inline bool aliveAfterwards = false;
+};
+
+TEST_F(Reading, HoldsTheValueMeanwhile) {
+    StrongPtr<LeavingValue, VValueBase> value = new LeavingValue(5);
+    value->leave = [this] { pool_->eraseVariable(parameter_->Name()); };
+    pool_->createVariable(*parameter_, value);
+    value = nullptr;
+    EXPECT_EQ(read(), 5);
+    EXPECT_TRUE(LeavingValue::aliveAfterwards);
+}
+
 TEST_F(Reading, OfAMemberThatDoesNotExistFindsNothing) {
     parameter_->poolVariable(pool_);
     EXPECT_TRUE(parameter_->getLocalValue(pool_, "", false));
@@ -275,14 +323,34 @@ TEST(Notification, ReachesAllListenersButTheOneWhoCausedIt) {
     EXPECT_EQ(second->count, 2);
 }
 
-TEST(Notification, HoldsItsListenersWeakly) {
+TEST(Notification, HoldsItsListenersWeaklyAndForgetsTheDeadOnes) {
     auto const parameter = doubleParameter(1);
-    {
+    WeakPtr<Listener, ValueNotifier> first;
+    for (int i = 0; i < 1000; ++i) {
         ListenerPtr const listener = new Listener;
         parameter->addNotifier(listener);
+        if (i == 0)
+            first = WeakPtr<Listener, ValueNotifier>(listener.get());
+    }
+    EXPECT_FALSE(first.alive());
+    EXPECT_EQ(first.controlBlock()->weakNow(), 1) << "only this test still points to it";
+    ListenerPtr const living = new Listener;
+    parameter->addNotifier(living);
+    parameter->notifyValueChange(nullptr, nullptr, "", nullptr, nullptr, nullptr);
+    EXPECT_EQ(living->count, 1) << "the dead ones are passed by";
+}
+
+TEST(Notification, KeepsEveryLivingListener) {
+    auto const parameter = doubleParameter(1);
+    std::vector<ListenerPtr> all;
+    for (int i = 0; i < 1000; ++i) {
+        ListenerPtr const passing = new Listener;
+        all.emplace_back(new Listener);
+        parameter->addNotifier(all.back());
+        parameter->addNotifier(passing);
     }
     parameter->notifyValueChange(nullptr, nullptr, "", nullptr, nullptr, nullptr);
-    SUCCEED() << "the dead listener was passed by";
+    EXPECT_TRUE(std::ranges::all_of(all, [](ListenerPtr const& each) { return each->count == 1; }));
 }
 
 // --- Properties of a parameter

@@ -163,6 +163,31 @@ TEST(TextOfFlagList, IsEachFlagBehindABlankWithAMinusIfOff) {
                           {"", {}, ""}});
 }
 
+TEST(TextOfEnum, WhoseChosenWordIsEmptyReadsBack) {
+    Enum const words = Enum().addCase("a").addCase("");
+    Enum const chosen = words.select("");
+    ASSERT_TRUE(chosen.Equal(""));
+    EXPECT_EQ(VValueTrait<Enum>::Text(chosen), "{a}{}");
+    Enum fresh, known = words;
+    EXPECT_TRUE(VValueTrait<Enum>::setValueFromText(fresh, "{a}{}"));
+    EXPECT_TRUE(fresh.Equal(""));
+    EXPECT_TRUE(VValueTrait<Enum>::setValueFromText(known, ""));
+    EXPECT_TRUE(known.Equal(""));
+}
+
+TEST(TextOfFlagList, HasTheSeparatorThatTheListWasMadeWith) {
+    FlagList const flags("my flag;-other", ';');
+    EXPECT_EQ(flags.separator(), ';');
+    EXPECT_EQ(VValueTrait<FlagList>::Text(flags), ";my flag;-other");
+    FlagList read = flags;
+    EXPECT_TRUE(VValueTrait<FlagList>::setValueFromText(read, ";-my flag;other"));
+    EXPECT_EQ(VValueTrait<FlagList>::Text(read), ";-my flag;other");
+    EXPECT_TRUE(VValueTrait<FlagList>::setValueFromText(read, ";my flag;-other"));
+    EXPECT_EQ(read, flags);
+    EXPECT_FALSE(VValueTrait<FlagList>::setValueFromText(read, " my flag -other"));
+    EXPECT_EQ(FlagList().separator(), ' ');
+}
+
 TEST(TextOfFlagList, ReplacesTheListAndRefusesUnknownFlags) {
     FlagList const known("-inverse wide", ' ');
     expectGood<FlagList>({{" inverse", {"inverse", ' '}, " inverse"}}, known);

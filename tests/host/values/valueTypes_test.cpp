@@ -55,6 +55,18 @@ TEST(EnumSelect, MakesAnotherListAndKnowsNoOtherWords) {
     EXPECT_FALSE(words.select("c"));
 }
 
+TEST(EnumWhoseSelectionLiesBeyondItsWords, SelectsNone) {
+    for (int const index : {2, 3, 1000000, -2}) {
+        Enum const words = Enum().addCase("a").addCase("b");
+        words->selection = index;
+        EXPECT_FALSE(words.hasSelection()) << index;
+        EXPECT_EQ(words.selected(), "");
+        EXPECT_FALSE(words.Equal("b"));
+        EXPECT_FALSE(words.Equal(""));
+        EXPECT_TRUE(words == Enum());
+    }
+}
+
 TEST(FlagListFromText, SplitsAtTheSeparatorAndReadsALeadingMinusAsOff) {
     FlagList const flags("-inverse;wide", ';');
     bool known = false;

@@ -1,0 +1,7 @@
+#include "runtime/lattice/AgedContent.hpp"
+
+namespace Orlo {
+
+AgedContent::~AgedContent() = default;
+
+}  // namespace Orlo
