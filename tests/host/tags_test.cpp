@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <regex>
 #include <string>
 #include <vector>
 
@@ -31,15 +30,15 @@ Lines linesOf(fs::path const& file) {
     return lines;
 }
 
-/// The tag in a line, or nothing.
+constexpr char const* Tags[] = {"[loader]", "[host]", "[updater]", "[reader]", "[any]"};
+
 bool hasTag(std::string const& line) {
-    static std::regex const tag(R"(\[(loader|host|updater|reader|any)\])");
-    return std::regex_search(line, tag);
+    return std::ranges::any_of(
+        Tags, [&](char const* tag) { return line.find(tag) != std::string::npos; });
 }
 
 bool endsWithTag(std::string const& line) {
-    static std::regex const tag(R"(\[(loader|host|updater|reader|any)\]$)");
-    return std::regex_search(line, tag);
+    return std::ranges::any_of(Tags, [&](char const* tag) { return line.ends_with(tag); });
 }
 
 /// The last line of the description of a declaration, which it may share with

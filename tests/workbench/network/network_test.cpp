@@ -461,7 +461,8 @@ TEST_F(NetworkTest, RefusesABadChangeAndLeavesTheNetworkAsItWas) {
         {"UserColors.color1", "(1,1,1,1)", "the object 'UserColors' could not be created"},
         {"qTelmMainWindow.title", "two\nlines", "cannot stand in a saved network"},
         {"qTelmMainWindow.title", std::string(1 << 20, 'x'), "cannot stand in a saved network"},
-        {"FieldSlice.colormap", "red", ""},
+        {"FieldSlice.colormap", "red",
+         "the text 'red' is no value of the parameter 'colormap' of type"},
         {"Hypsometric_for_FieldSlice_colormap.options", " sideways", "is no value"},
     };
     std::string const first = example("HypsometricSlice.telm");
