@@ -62,9 +62,10 @@ public:
     /// which belongs to the creator's library.
     char const* token() const noexcept { return token_; }
 
-    /// Notes an object of this creator.
+    /// Notes an object of this creator, which takes itself out when it goes.
     void addInstance(WeakObjectPtr const& object) const;
-    /// The objects of this creator that are alive.
+    void removeInstance(VObject const& object) const;
+    /// The objects of this creator that are alive, the oldest first.
     std::vector<WeakObjectPtr> instances() const;
     /// Deletes all living objects of this creator, whoever holds them: their
     /// holders find their pointers empty.

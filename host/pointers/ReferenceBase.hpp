@@ -17,7 +17,7 @@ class ReferenceBase;
 /// Owner: nobody alone; freed by whoever takes `weak` to zero, which is never
 /// before the object itself has gone. Threads: both counts are changed by
 /// atomic operations only; a test of a count is an ordinary load and therefore
-/// only advice, but for the one before a deletion.
+/// only advice, but for those of `holdUnlessDead` and `markDeadUnlessHeld`.
 template <class B>
 struct ControlBlock {
     /// `strong` of an object that is gone, or is just being deleted.
@@ -34,6 +34,16 @@ struct ControlBlock {
     ReferenceBase<B>* objectNow() const noexcept { return object.load(std::memory_order_relaxed); }
 
     bool alive() const noexcept { return objectNow() != nullptr && strongNow() >= 0; }
+
+    /// Adds one strong holder; false if the object is dead. Test and addition are
+    /// one step, so that nothing is added to an object that dies in between.
+    bool holdUnlessDead() noexcept {
+        std::int32_t count = strongNow();
+        while (count >= 0)
+            if (strong.compare_exchange_weak(count, count + 1))
+                return true;
+        return false;
+    }
 
     /// Puts `Dead` in the place of a strong count below 1; false if somebody holds
     /// the object. Test and exchange are one step: a reference that comes between
@@ -93,10 +103,7 @@ protected:
     ReferenceBase& operator=(ReferenceBase const&) noexcept { return *this; }
 
     /// One strong reference of the object on itself, for static objects.
-    void holdSelf() noexcept {
-        if (block->strongNow() >= 0)
-            block->strong.fetch_add(1);
-    }
+    void holdSelf() noexcept { block->holdUnlessDead(); }
 
 private:
     ControlBlock<B>* block;

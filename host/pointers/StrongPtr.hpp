@@ -48,11 +48,8 @@ public:
 
 private:
     void hold(char const* label) noexcept {
-        if (this->block == nullptr || this->block->strongNow() < 0)
-            return;
-        if (this->block->strong.fetch_add(1) < 0)
-            this->block->strong.fetch_sub(1);  // it has died since the test, and stays so
-        trace(label, "hold");
+        if (this->block != nullptr && this->block->holdUnlessDead())
+            trace(label, "hold");
     }
 
     void release() noexcept {

@@ -34,7 +34,8 @@ public:
     /// [host]
     virtual void touch();
 
-    /// Adds a listener; those that have died are forgotten.
+    /// Adds a listener. Those that have died are forgotten, each time that the list
+    /// has grown to twice its size, so that one costs the same in any list.
     void addNotifier(WeakPtr<ValueNotifier, ValueNotifier> const& notifier);
     /// Remembers that the pool holds a value of this parameter.
     void addShadow(PoolPtr const& pool) const;

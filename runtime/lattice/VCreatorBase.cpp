@@ -1,11 +1,12 @@
 #include "host/creators/VCreatorBase.hpp"
 
 #include <algorithm>
+#include <cstdint>
+#include <map>
 #include <mutex>
 
 #include "host/values/Vprintf.hpp"
 #include "runtime/lattice/CreatorRegistry.hpp"
-#include "runtime/lattice/addWeakly.hpp"
 
 namespace Orlo {
 
@@ -48,8 +49,7 @@ VInputCreatorBase::~VInputCreatorBase() = default;
 
 struct VCreatorBase::State {
     std::mutex mutex;
-    std::vector<WeakObjectPtr> instances;
-    std::size_t instancesAtNextSweep = 0;
+    std::map<std::uint64_t, WeakObjectPtr> instances;  ///< by their numbers
 };
 
 VCreatorBase::VCreatorBase(VCreatorProperties const& properties, int order,
@@ -83,13 +83,18 @@ std::string VCreatorBase::createChildname(WeakObjectPtr const& parent,
 
 void VCreatorBase::addInstance(WeakObjectPtr const& object) const {
     std::scoped_lock const lock(state_->mutex);
-    addWeakly(state_->instances, object, state_->instancesAtNextSweep);
+    state_->instances.insert_or_assign(object->number(), object);
+}
+
+void VCreatorBase::removeInstance(VObject const& object) const {
+    std::scoped_lock const lock(state_->mutex);
+    state_->instances.erase(object.number());
 }
 
 std::vector<WeakObjectPtr> VCreatorBase::instances() const {
     std::scoped_lock const lock(state_->mutex);
     std::vector<WeakObjectPtr> alive;
-    for (WeakObjectPtr const& object : state_->instances)
+    for (auto const& [number, object] : state_->instances)
         if (object)
             alive.push_back(object);
     return alive;

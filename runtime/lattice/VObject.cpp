@@ -41,7 +41,10 @@ VObject::VObject(std::string const& name, int kind, PreferencesPtr const& prefer
       preferences_(preferences),
       state_(std::make_unique<State>()) {}
 
-VObject::~VObject() = default;
+VObject::~VObject() {
+    if (StrongPtr<VCreatorBase, VManagedObjectBase> const maker(state_->creator); maker)
+        maker->removeInstance(*this);
+}
 
 bool VObject::request(VRequest& request, double precision, Asker const&, Asker const& consumer) {
     bool const myTurn = std::exchange(request.due_, nullptr) == this;

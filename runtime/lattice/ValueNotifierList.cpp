@@ -1,7 +1,5 @@
 #include "host/values/ValueNotifierList.hpp"
 
-#include "runtime/lattice/addWeakly.hpp"
-
 namespace Orlo {
 
 ValueNotifier::~ValueNotifier() = default;
@@ -15,7 +13,11 @@ void ValueNotifierList::touch() {
 
 void ValueNotifierList::addNotifier(WeakPtr<ValueNotifier, ValueNotifier> const& notifier) {
     std::scoped_lock const lock(mutex_);
-    addWeakly(notifiers_, notifier, notifiersAtNextSweep_);
+    if (notifiers_.size() >= notifiersAtNextSweep_) {
+        std::erase_if(notifiers_, [](auto const& each) { return !each.alive(); });
+        notifiersAtNextSweep_ = 2 * notifiers_.size() + 8;
+    }
+    notifiers_.push_back(notifier);
 }
 
 void ValueNotifierList::addShadow(PoolPtr const& pool) const {
