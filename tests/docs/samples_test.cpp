@@ -144,7 +144,7 @@ std::map<std::string, std::type_info const*> const types{
 };
 
 TEST(Samples, OfValueTypesAreReadAndWrittenAsTheTableSays) {
-    workbench::registerSceneTypes();
+    workbench::registerNodeTypes();
     std::map<std::string, std::type_info const*> missing = types;
     for (std::vector<std::string> const& row : typeRows()) {
         ASSERT_GE(row.size(), 4U);

@@ -513,7 +513,7 @@ TEST_F(NetworkTest, ReadsTheParametersOfTheExamplesUnderTheirNames) {
             auto const* const parameter = std::get_if<ParameterLine>(&line.meaning);
             Orlo::ObjectPtr const object =
                 parameter != nullptr ? fresh.findObject(parameter->object) : Orlo::ObjectPtr();
-            if (!object || dynamic_cast<Keeper const*>(object.get()) != nullptr)
+            if (!object || dynamic_cast<Placeholder const*>(object.get()) != nullptr)
                 continue;
             bool const isKept = kept.contains(parameter->object) &&
                                 kept.at(parameter->object).contains(parameter->name);
