@@ -174,8 +174,8 @@ public:
 TEST_P(Allocation, FailingWhereTheObjectLearnsItsCreatorComesBehindTheMessagesAndBeforeRequests) {
     VRequest request(makePool());
     Probe::asked = &request;
-    VCreator<Probe, void> const entry(VCreatorProperties(NameIs("Probe")), 0, nullptr, false,
-                                      InterfaceToken);
+    Nucleo::Auto<VCreator<Probe, void>> const entry(VCreatorProperties(NameIs("Probe")), 0, nullptr,
+                                                    false, InterfaceToken);
     std::vector<std::string> lines;
     std::unique_ptr<DiagnosticText> text;
     failEverywhere(

@@ -84,7 +84,7 @@ struct Need {
 std::vector<Need> const Needs {
     {"the host", "_Z(T[ISTV]|T[hv][n0-9_]+_)?NK?(4Orlo|6Nucleo).*"},
         {"memory", "_Z(nw|na|dl|da).*|mem(cpy|move|set|cmp)|bcmp|strlen"},
-        {"mathematics", "atan|cbrt|exp|fmod|pow|floorf?|trunc|fma"},
+        {"mathematics", "atan|cbrt|exp|fmod|pow|sqrt|floorf?|trunc|fma"},
         {"the one line on standard output, and the warnings",
          "printf|puts|putchar|fflush|fwrite|stdout"},
         {"exceptions and casts",

@@ -1,6 +1,7 @@
 #include "workbench/cli/files.hpp"
 
 #include <algorithm>
+#include <iterator>
 
 #include "workbench/cli/Progress.hpp"
 #include "workbench/common/errors.hpp"
@@ -31,11 +32,21 @@ void checkOutput(fs::path const& output, std::vector<fs::path> const& inputs) {
                             ", which is read and is the same file; name another file to write");
 }
 
+namespace {
+
+std::vector<fs::path> standardOutputs(std::vector<fs::path> const& files) {
+    std::vector<fs::path> found;
+    std::ranges::copy_if(files, std::back_inserter(found), isStandardOutput);
+    return found;
+}
+
+}  // namespace
+
 OutputFiles::OutputFiles(std::vector<fs::path> const& files)
-    : output_(std::ranges::any_of(files, isStandardOutput)) {}
+    : standardOutputs_(standardOutputs(files)), output_(!standardOutputs_.empty()) {}
 
 void OutputFiles::write(fs::path const& file, std::string const& bytes) {
-    if (output_.isAt(file))
+    if (std::ranges::find(standardOutputs_, file) != standardOutputs_.end())
         output_.write(bytes);
     else
         writeFile(file, bytes);

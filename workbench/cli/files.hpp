@@ -34,6 +34,7 @@ public:
     void write(std::filesystem::path const& file, Image const& picture);
 
 private:
+    std::vector<std::filesystem::path> standardOutputs_;  ///< those files that are it
     StandardOutput output_;
 };
 

@@ -73,10 +73,6 @@ StandardOutput::~StandardOutput() {
     std::fclose(apart_);
 }
 
-bool StandardOutput::isAt(std::filesystem::path const& file) const {
-    return leadsTo(file, fileno(apart_ != nullptr ? apart_ : stdout));
-}
-
 void StandardOutput::write(std::string_view text) {
     std::FILE* const target = apart_ != nullptr ? apart_ : stdout;
     std::size_t const written = std::fwrite(text.data(), 1, text.size(), target);

@@ -22,9 +22,6 @@ public:
     StandardOutput& operator=(StandardOutput const&) = delete;
     ~StandardOutput();
 
-    /// Whether a file is the real standard output, as `isStandardOutput` says.
-    bool isAt(std::filesystem::path const& file) const;
-
     /// Writes results. Throws `WorkError` if they cannot be written.
     void write(std::string_view text);
 
@@ -33,7 +30,8 @@ private:
 };
 
 /// Whether a file is the standard output of the program under another name, such
-/// as `/dev/stdout`. Systems without such names say no.
+/// as `/dev/stdout`. Systems without such names say no. To be asked before an output
+/// that stands apart takes the name away.
 bool isStandardOutput(std::filesystem::path const& file);
 
 }  // namespace workbench
