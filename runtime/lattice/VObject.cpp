@@ -42,7 +42,7 @@ VObject::VObject(std::string const& name, int kind, PreferencesPtr const& prefer
       state_(std::make_unique<State>()) {}
 
 VObject::~VObject() {
-    if (StrongPtr<VCreatorBase, VManagedObjectBase> const maker(state_->creator); maker)
+    if (VCreatorBase const* const maker = state_->creator.get())  // which nobody need hold
         maker->removeInstance(*this);
 }
 
