@@ -55,8 +55,7 @@ void Ruler::drawOver(Image& image) const {
     for (int i = 0; i <= parts; ++i) {
         std::string const text = label(range_, i, parts);
         int const middle = box.left + offset(box.width, i, parts);
-        drawLabel(image, middle - textWidth(text, scale) / 2, line + 3 * scale, text, color,
-                  scale);
+        drawLabel(image, middle - textWidth(text, scale) / 2, line + 3 * scale, text, color, scale);
     }
 }
 

@@ -14,10 +14,7 @@ namespace {
 int pixels(double fraction, int length) {
     constexpr double Max = 1 << 20;
     double const exact = std::floor(fraction * length + 0.5);
-    return static_cast<int>(exact >= Max    ? Max
-                            : exact <= -Max ? -Max
-                            : exact == exact ? exact
-                                             : 0);
+    return static_cast<int>(exact >= Max ? Max : exact <= -Max ? -Max : exact == exact ? exact : 0);
 }
 
 /// Black or white, whichever is less like the colour.

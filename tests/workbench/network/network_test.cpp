@@ -320,7 +320,7 @@ TEST_F(NetworkTest, RemarksOnValuesThatChangeNothing) {
     for (Remark const& each : table) {
         Network network;
         network.execute(Script::read("# TelmScript Preliminiary Experimental \n# VERBOSE\n" +
-                                      std::string(each.lines)));
+                                     std::string(each.lines)));
         EXPECT_FALSE(anyFailure(network.complaints())) << each.lines;
         EXPECT_EQ(reports(network), *each.report != '\0' ? std::vector<std::string>{each.report}
                                                          : std::vector<std::string>())
