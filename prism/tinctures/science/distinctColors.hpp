@@ -19,8 +19,6 @@ struct DistinctRequest {
 /// The colours in the order of picking: each one is as far as possible from the
 /// backgrounds and from all before it. A grid without steps gives cleared colours.
 ///
-/// What was selected last is remembered, so that it is not selected anew.
-///
 /// Threads: any, without waiting. Throws `std::length_error` for a negative number,
 /// and for what would take too long or too much, before it begins.
 std::vector<Tessar::rgba_float_t> distinctColors(DistinctRequest const& request);
