@@ -18,6 +18,7 @@
 #include "tests/support/RecordingSpeaker.hpp"
 #include "tests/support/mapped.hpp"
 #include "tests/support/objects.hpp"
+#include "tests/support/sanitizers.hpp"
 #include "tests/support/writtenBytes.hpp"
 #include "workbench/session/PluginFile.hpp"
 
@@ -378,7 +379,7 @@ TEST_F(SecondCopy, HasObjectsThatTheFirstOnesUnloadLeavesAlone) {
 
 // --- Cycles
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#if TESTS_ADDRESS_SANITIZER || TESTS_THREAD_SANITIZER
 // Each cycle takes longer there. The sanitizer enters an exit function of its
 // own beside each of ours and never takes it out again, so that the list of
 // exit functions grows; what we leak it reports by itself.

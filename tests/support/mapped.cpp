@@ -1,5 +1,7 @@
 #include "tests/support/mapped.hpp"
 
+#include "tests/support/sanitizers.hpp"
+
 #if defined(_WIN32)
 
 #include <windows.h>
@@ -42,7 +44,7 @@ unsigned nextThreadIndex() {
 
 #include <fstream>
 
-#if defined(__SANITIZE_ADDRESS__)
+#if TESTS_ADDRESS_SANITIZER
 // The sanitizer's own count; not every compiler brings the header for it.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
@@ -58,7 +60,7 @@ bool isMapped(std::string const& fileName) {
 }
 
 std::size_t heapBytes() {
-#if defined(__SANITIZE_ADDRESS__)
+#if TESTS_ADDRESS_SANITIZER
     return __sanitizer_get_current_allocated_bytes();
 #else
     return mallinfo2().uordblks;
