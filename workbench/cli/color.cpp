@@ -1,5 +1,4 @@
 /// `telmbench color`: data painted with a map.
-#include <cmath>
 #include <functional>
 #include <optional>
 
@@ -7,8 +6,6 @@
 #include "workbench/cli/commands.hpp"
 #include "workbench/cli/files.hpp"
 #include "workbench/cli/numbers.hpp"
-#include "workbench/common/errors.hpp"
-#include "workbench/common/inQuotes.hpp"
 #include "workbench/data/paint.hpp"
 #include "workbench/session/MapObject.hpp"
 
@@ -41,21 +38,6 @@ struct Arguments {
     int band = 1;
     std::filesystem::path file;
 };
-
-/// Reads "0,1000".
-Interval readRange(std::string const& text) {
-    std::size_t const comma = text.find(',');
-    std::optional<double> min, max;
-    if (comma != std::string::npos) {
-        min = readNumber(std::string_view(text).substr(0, comma));
-        max = readNumber(std::string_view(text).substr(comma + 1));
-    }
-    if (!min || !max || !std::isfinite(*min) || !std::isfinite(*max) || !(*min < *max))
-        throw CallError("the range " + inQuotes(text) +
-                        " is not of the form MIN,MAX with two finite numbers, the lower one "
-                        "first, such as 0,1000");
-    return {*min, *max};
-}
 
 /// A line of progress for the length of one piece of work.
 std::function<void(double)> shownAs(char const* label) {

@@ -1,6 +1,7 @@
 #include "workbench/cli/numbers.hpp"
 
 #include <charconv>
+#include <cmath>
 
 #include "runtime/quartz/text.hpp"
 #include "workbench/common/errors.hpp"
@@ -60,6 +61,20 @@ Size readSize(std::string const& text) {
                         " is not of the form WIDTHxHEIGHT with 1 to 16384 pixels each, such as "
                         "512x64");
     return size;
+}
+
+Interval readRange(std::string const& text) {
+    std::size_t const comma = text.find(',');
+    std::optional<double> min, max;
+    if (comma != std::string::npos) {
+        min = readNumber(std::string_view(text).substr(0, comma));
+        max = readNumber(std::string_view(text).substr(comma + 1));
+    }
+    if (!min || !max || !std::isfinite(*min) || !std::isfinite(*max) || !(*min < *max))
+        throw CallError("the range " + inQuotes(text) +
+                        " is not of the form MIN,MAX with two finite numbers, the lower one "
+                        "first, such as 0,1000");
+    return {*min, *max};
 }
 
 }  // namespace workbench

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "workbench/common/Interval.hpp"
+
 namespace workbench {
 
 /// The number that the whole text means: decimal (`0.5`, `-2e-3`), hexadecimal
@@ -25,5 +27,9 @@ struct Size {
 /// Reads "512x64". Throws `CallError` for other texts and for sizes outside 1
 /// to 16384.
 Size readSize(std::string const& text);
+
+/// Reads "0,1000". Throws `CallError` for other texts, and for numbers that are not
+/// finite or not in ascending order.
+Interval readRange(std::string const& text);
 
 }  // namespace workbench
