@@ -33,12 +33,14 @@ public:
 
     /// The parameter in force: the provider's if connected, else the own one. The
     /// result holds it, whatever becomes of the connection.
-    ParameterPtr parameter() const { return connected_ ? connection().parameter : own_; }
+    ParameterPtr parameter() const { return isConnected() ? connection().parameter : own_; }
     ParameterPtr const& ownParameter() const noexcept { return own_; }
+    /// Whether another object's parameter stands here.
+    bool isConnected() const noexcept { return connected_; }
     /// The object that provides the parameter in force, if connected.
     WeakPtr<VManagedObjectBase, VManagedObjectBase> provider() const {
-        return connected_ ? connection().provider
-                          : WeakPtr<VManagedObjectBase, VManagedObjectBase>();
+        return isConnected() ? connection().provider
+                             : WeakPtr<VManagedObjectBase, VManagedObjectBase>();
     }
 
     void connect(ParameterPtr const& parameter,

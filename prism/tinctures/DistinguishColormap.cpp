@@ -4,12 +4,25 @@
 
 #include "host/creators/VSource.hpp"
 #include "prism/tinctures/OutputMap.hpp"
-#include "prism/tinctures/science/distinctColors.hpp"
+#include "prism/tinctures/science/RecentTables.hpp"
 
 using namespace Orlo;
 using namespace prism;
 
 namespace {
+
+/// Of all objects. It goes behind the creator and all that this has made.
+constinit RecentTables recentTables;
+
+/// The colours that a request selects. Each update asks for them, most often for the
+/// very same ones.
+std::vector<rgba_float_t> selectedColors(DistinctRequest const& request) {
+    if (auto known = recentTables.find(request))
+        return *std::move(known);
+    std::vector<rgba_float_t> colors = distinctColors(request);
+    recentTables.keep(request, colors);
+    return colors;
+}
 
 class ColorRampDistinguish : public Tincture {
 public:
@@ -17,7 +30,7 @@ public:
     class Ramp : public Colormap {
     public:
         explicit Ramp(DistinctRequest const& request)
-            : NumberOfColors(request.count), Colors(distinctColors(request)) {}
+            : NumberOfColors(request.count), Colors(selectedColors(request)) {}
 
         int getMin() const override { return 0; }
         int getMax() const override { return 1; }

@@ -61,8 +61,11 @@ bool VObject::request(VRequest& request, double precision, Asker const&, Asker c
 /// The provider of the next input, from the given one on, that the request has
 /// still to reach; empty behind the last one.
 ObjectPtr VObject::nextProvider(VRequest const& request, std::size_t& slotIndex) const {
-    while (slotIndex < slots().size()) {
-        SlotPtr const& slot = slots()[slotIndex++];
+    std::vector<SlotPtr> const& all = slots();
+    while (slotIndex < all.size()) {
+        SlotPtr const& slot = all[slotIndex++];
+        if (!slot->isConnected())
+            continue;
         ObjectPtr const provider(slot->provider());
         if (provider && !ignoreInput(slot) && provider->state_->answersRequests &&
             !provider->hasRequest(request))
@@ -82,21 +85,21 @@ void VObject::requestProviders(VRequest& request, double precision, Asker const&
         std::size_t slotIndex = 0;
     };
     rememberRequest(request);
-    std::vector<Step> path;
-    path.push_back({nullptr, this});
+    Step self{nullptr, this};
+    std::vector<Step> path;  // from a provider of this object on: most have none
     while (true) {
-        Step& last = path.back();
+        Step& last = path.empty() ? self : path.back();
         if (ObjectPtr const provider = last.object->nextProvider(request, last.slotIndex)) {
             provider->rememberRequest(request);
             path.push_back({provider, provider.get()});
             continue;
         }
-        if (path.size() == 1)
+        if (path.empty())
             return;
         ObjectPtr const due = last.held;
         path.pop_back();
         request.due_ = due.get();
-        due->request(request, precision, path.back().object, consumer);
+        due->request(request, precision, path.empty() ? this : path.back().object, consumer);
     }
 }
 

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <utility>
 
+#include "host/colormap/Colormap.hpp"
 #include "host/object/VObject.hpp"
 #include "host/pointers/Typename.hpp"
 #include "runtime/lattice/AgedContent.hpp"
@@ -58,15 +59,36 @@ void VSlot::removeConnection(Nucleo::ControlBlock<VManagedObjectBase> const* pro
     connectionAge_.touch();
 }
 
+namespace {
+
+/// The age of what a value holds, where that ages by itself. Only maps do: the type
+/// is compared first, since a cast that fails costs more than all else of a request.
+Nucleo::Ageable::Stamp contentAge(VValueBase const& value) {
+    if (value.type() != typeid(ColormapPtr))
+        return 0;
+    auto const* const content = dynamic_cast<AgedContent const*>(&value);
+    return content != nullptr ? content->contentAge() : 0;
+}
+
+Nucleo::Ageable::Stamp valueAge(VValueBase const& value) {
+    return std::max(value.ageable()->age(), contentAge(value));
+}
+
+/// The age of a parameter's value in a pool. A pool's own is held meanwhile; the
+/// parameter's stands as long as the parameter, and counting costs.
+Nucleo::Ageable::Stamp parameterAge(VParameter const& parameter, PoolPtr const& pool) {
+    if (parameter.keepsLocalValues())
+        if (ValuePtr const local = parameter.getLocalValue(pool, "", false))
+            return valueAge(*local);
+    return parameter.ownValue() ? valueAge(*parameter.ownValue()) : 0;
+}
+
+}  // namespace
+
 Nucleo::Ageable::Stamp VSlot::age(PoolPtr const& pool) const {
     Nucleo::Ageable::Stamp const connectionAge = connectionAge_.age();
-    ValuePtr const held = valueInPool(*parameter(), pool, false);
-    if (!held)
-        return connectionAge;
-    VValueBase const& value = *held;
-    auto const* const content = dynamic_cast<AgedContent const*>(&value);
-    return std::max({connectionAge, value.ageable()->age(),
-                     content != nullptr ? content->contentAge() : Nucleo::Ageable::Stamp{0}});
+    return std::max(connectionAge,
+                    isConnected() ? parameterAge(*parameter(), pool) : parameterAge(*own_, pool));
 }
 
 VSlotContainer* VSlotGlobals::containerOf(VObject* object) {

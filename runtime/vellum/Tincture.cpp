@@ -1,8 +1,9 @@
 #include "host/object/Tincture.hpp"
 
-#include <array>
+#include <algorithm>
 #include <atomic>
 #include <mutex>
+#include <string_view>
 
 #include "runtime/vellum/ColormapValue.hpp"
 #include "runtime/vellum/quantize.hpp"
@@ -26,29 +27,52 @@ rgb8_t iconColor(Colormap const& map, int column) {
     return quantizedColor<rgb8_t>(color);
 }
 
-std::string hexadecimal(rgb8_t const& color) {
-    constexpr char digits[] = "0123456789ABCDEF";
-    std::string text = "#";
-    for (unsigned const component : color) {
-        text += digits[component / 16];
-        text += digits[component % 16];
+/// Writes an image into text of the right length, from front to back.
+class Pen {
+public:
+    explicit Pen(char* place) : place_(place) {}
+
+    void write(char character) { *place_++ = character; }
+    void write(std::string_view text) { place_ = std::ranges::copy(text, place_).out; }
+    void writeHexadecimal(rgb8_t const& color) {
+        constexpr char digits[] = "0123456789ABCDEF";
+        for (unsigned const component : color) {
+            write(digits[component / 16]);
+            write(digits[component % 16]);
+        }
     }
-    return text;
+
+private:
+    char* place_;
+};
+
+// The parts of an XPM image with a colour, and a character, for each column.
+static_assert(IconWidth == 48 && IconHeight == 12);
+constexpr std::string_view Head = "48 12 48 1\n";
+constexpr std::size_t ColorLength = std::string_view("0 c #RRGGBB\n").size();
+constexpr std::size_t ImageLength =
+    Head.size() + IconWidth * ColorLength + IconHeight * (IconWidth + 1);
+
+constexpr char keyOf(int column) {
+    return static_cast<char>('0' + column);
 }
 
-/// The map from left to right, as the text of an XPM image with a colour, and
-/// a character, for each column.
+/// The map from left to right. An update draws it each time: one allocation.
 std::string drawIcon(Colormap const& map) {
-    std::string colors, row;
+    std::string image(ImageLength, '\0');
+    Pen pen(image.data());
+    pen.write(Head);
     for (int column = 0; column < IconWidth; ++column) {
-        char const key = static_cast<char>('0' + column);
-        colors += std::string(1, key) + " c " + hexadecimal(iconColor(map, column)) + "\n";
-        row += key;
+        pen.write(keyOf(column));
+        pen.write(" c #");
+        pen.writeHexadecimal(iconColor(map, column));
+        pen.write('\n');
     }
-    std::string image = std::to_string(IconWidth) + " " + std::to_string(IconHeight) + " " +
-                        std::to_string(IconWidth) + " 1\n" + colors;
-    for (int line = 0; line < IconHeight; ++line)
-        image += row + "\n";
+    for (int line = 0; line < IconHeight; ++line) {
+        for (int column = 0; column < IconWidth; ++column)
+            pen.write(keyOf(column));
+        pen.write('\n');
+    }
     return image;
 }
 

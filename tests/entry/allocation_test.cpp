@@ -158,6 +158,63 @@ TEST_P(Allocation, FailingInALaterUpdateLeavesTheOldMapAsItWas) {
     EXPECT_GT(points, 0);
 }
 
+/// A map, its counts and its table, the icon, a text: no more, whatever it shows.
+TEST_P(Allocation, HappensFourTimesAtMostInAnUpdateWithoutAChange) {
+    for (std::string const& key : keys()) {
+        SCOPED_TRACE(key);
+        int const points = failEverywhere(
+            [&] {
+                object_ = create(key);
+                pool_ = makePool();
+                update(*object_, pool_);
+            },
+            [&] { forceUpdate(*object_, pool_); }, [](bool) {});
+        EXPECT_LE(points, 4);
+    }
+}
+
+/// What is remembered of a selection may fail without anybody's noticing: then an
+/// allocation fails and the update does not. A background for each call keeps it
+/// from finding what is remembered of the former ones.
+TEST_P(Allocation, FailingInASelectionEndsTheUpdateOrLeavesTheColoursRight) {
+    std::string const key = "Colormaps/MaxDistinguishableColors";
+    for (int i = 1; i <= 8; ++i) {  // as many tables as are remembered, and more
+        ObjectPtr const warm = create(key);
+        set(*warm, "Number of Colors", "3");
+        set(*warm, "Background Color 1", "(0,0," + std::to_string(i) + ",1)");
+        update(*warm, makePool());
+    }
+    int harmless = 0, n = 0;
+    for (bool failed = true; failed && n < MostPoints;) {
+        std::string const background = "(0,0," + std::to_string(++n) + ",1)";
+        object_ = create(key);
+        pool_ = makePool();
+        set(*object_, "Number of Colors", "3");
+        set(*object_, "RGB Steps", "5");
+        set(*object_, "Background Color 2", background);
+        bool thrown = false;
+        {
+            FailingAllocation const failing(n, GetParam().mode);
+            try {
+                forceUpdate(*object_, pool_);
+            } catch (std::bad_alloc const&) {
+                thrown = true;
+            }
+            failed = failing.hasFailed();
+        }
+        EXPECT_TRUE(failed || !thrown);
+        harmless += failed && !thrown ? 1 : 0;
+        ColormapPtr const first = mapOf(*object_, pool_);
+        EXPECT_NE(bool(first), thrown) << "allocation " << n;
+        ColormapPtr const again = update(*object_, pool_);
+        for (int i = 0; first && i < 3; ++i)
+            EXPECT_EQ(first->getColor(i / 3.0), again->getColor(i / 3.0));
+        letGo();
+    }
+    EXPECT_GT(n, 20) << "a selection took place";
+    EXPECT_EQ(harmless, GetParam().mode == Failing::Once ? 2 : 0) << "an entry and its table";
+}
+
 /// An object that tells, when it goes, whether it would have answered a request.
 class Probe : public Tincture {
 public:

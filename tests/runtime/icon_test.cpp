@@ -71,6 +71,22 @@ TEST(Icon, IsAnXpmImageWithAColourForEachColumn) {
     EXPECT_EQ(icon.rows.front().size(), 48u);
 }
 
+/// All of its bytes, put together the plain way.
+TEST(Icon, IsThisText) {
+    Icon const icon = iconOf(false);
+    std::string text = "48 12 48 1\n", row;
+    for (char key = '0'; key < '0' + 48; ++key) {
+        text +=
+            std::string(1, key) + " c " + icon.colours[static_cast<std::size_t>(key - '0')] + "\n";
+        row += key;
+    }
+    for (int line = 0; line < 12; ++line)
+        text += row + "\n";
+    Plain object;
+    object.createIcon(new Grey(false));
+    EXPECT_EQ(object.xpm_icon(), text);
+}
+
 TEST(Icon, RunsFromLeftToRightAndLimitsComponents) {
     Icon const icon = iconOf(false);
     EXPECT_EQ(icon.colours.front(), "#030300") << "the middle of the first column is 0.5/48";

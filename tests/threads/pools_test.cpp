@@ -39,6 +39,38 @@ TEST_F(Pools, OfOneObjectAreUpdatedFromTwoThreads) {
     }
 }
 
+/// Each thread asks for more tables in turn than are remembered, and all threads for
+/// the same ones.
+TEST_F(Pools, OfManyObjectsShareWhatIsRememberedOfSelections) {
+    constexpr unsigned Threads = 4, Tables = 6;
+    auto const coloursOf = [](VObject& object, PoolPtr const& pool, unsigned table) {
+        tests::set(object, "Number of Colors", std::to_string(3 + table), pool);
+        return tests::coloursOf(*update(object, pool));
+    };
+    auto const make = [] {
+        ObjectPtr const object = create("Colormaps/MaxDistinguishableColors");
+        tests::set(*object, "RGB Steps", "3");
+        return object;
+    };
+    std::vector<Colours> expected;
+    for (unsigned table = 0; table < Tables; ++table)
+        expected.push_back(coloursOf(*make(), makePool(), table));
+    std::atomic<unsigned> wrong{0};
+    std::vector<std::thread> threads;
+    for (unsigned i = 0; i < Threads; ++i)
+        threads.emplace_back([&, i, object = make(), pool = makePool()] {
+            for (unsigned round = 0; round < Rounds; ++round) {
+                unsigned const table = (round / 2 + i) % Tables;
+                if (!same(coloursOf(*object, pool, table), expected[table]))
+                    wrong.fetch_add(1, std::memory_order_relaxed);
+                forceUpdate(*object, pool);
+            }
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(wrong, 0U);
+}
+
 /// A map with a cache in it, held by whoever the result is given to.
 ColormapPtr mapWithoutObject(std::string const& key) {
     ColormapPtr const map = update(*create(key), makePool());

@@ -6,6 +6,7 @@
 #include <limits>
 #include <stdexcept>
 
+#include "prism/tinctures/science/RecentTables.hpp"
 #include "tests/prism/parameterRow.hpp"
 #include "tests/support/PluginTest.hpp"
 
@@ -246,6 +247,28 @@ TEST_F(DistinguishColormap, TakesSlotsWithoutAValueAsBlackAndAsD65) {
     std::vector<rgba_float_t> const expected{Blue, Green, Red, Yellow};
     for (std::size_t n = 0; n < expected.size(); ++n)
         EXPECT_EQ(map->getColor(static_cast<double>(n) / 4.0), expected[n]) << n;
+}
+
+/// More requests in turn than are remembered, each one twice in a row.
+TEST_F(DistinguishColormap, HasTheColoursOfItsOwnParametersWhateverWasAskedForBefore) {
+    constexpr int Requests = prism::RecentTables::Places + 2;
+    Orlo::ObjectPtr const object = create("Colormaps/MaxDistinguishableColors");
+    Orlo::PoolPtr const pool = makePool();
+    for (int i = 0; i < 3 * Requests; ++i) {
+        prism::DistinctRequest const wanted{
+            5, 4, Orlo::Enum().addCase("D50"), {0.125 * (i % Requests), 0, 0, 1}, Black};
+        set(*object, "Number of Colors", "5");
+        set(*object, "RGB Steps", "4");
+        set(*object, "Background Color 1",
+            Orlo::VValueTrait<rgba_float_t>::Text(wanted.background1));
+        std::vector<rgba_float_t> const expected = prism::distinctColors(wanted);
+        for (int time = 0; time < 2; ++time) {
+            forceUpdate(*object, pool);
+            Orlo::ColormapPtr const map = mapOf(*object, pool);
+            for (std::size_t n = 0; n < expected.size(); ++n)
+                EXPECT_EQ(map->getColor(static_cast<double>(n) / 5.0), expected[n]) << i;
+        }
+    }
 }
 
 }  // namespace
