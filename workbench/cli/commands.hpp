@@ -15,6 +15,7 @@ namespace workbench {
 void addCatalogue(CLI::App& program, SessionOptions const& common);
 void addColor(CLI::App& program, SessionOptions const& common);
 void addDescribe(CLI::App& program, SessionOptions const& common);
+void addExport(CLI::App& program, SessionOptions const& common);
 void addGallery(CLI::App& program, SessionOptions const& common);
 void addLookup(CLI::App& program, SessionOptions const& common);
 void addRamp(CLI::App& program, SessionOptions const& common);

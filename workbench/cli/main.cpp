@@ -63,7 +63,7 @@ void addCommonOptions(CLI::App& program, SessionOptions& common) {
 void addCommands(CLI::App& program, SessionOptions const& common) {
     program.require_subcommand(1);
     for (auto* const add :
-         {addCatalogue, addColor, addDescribe, addGallery, addLookup, addRamp, addRun})
+         {addCatalogue, addColor, addDescribe, addExport, addGallery, addLookup, addRamp, addRun})
         add(program, common);
 }
 

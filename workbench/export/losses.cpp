@@ -1,0 +1,66 @@
+#include "workbench/export/Form.hpp"
+#include "workbench/export/notation.hpp"
+
+namespace workbench {
+
+using Orlo::rgba_float_t;
+
+namespace {
+
+/// What is lost of the colours on one side of the range; empty if nothing.
+std::string lossBeside(std::string const& side, Outside outside, rgba_float_t const& color,
+                       rgba_float_t const& nearest, bool changes) {
+    std::string const values = "values " + side + " the range ";
+    if (outside == Outside::Undrawn)
+        return values + "are not drawn, and have " + hexOf(color) + " in the map";
+    rgba_float_t const& written = outside == Outside::Colored ? color : nearest;
+    if (changes)
+        return values + "have different colours in the map, and all " + hexOf(written) +
+               " in the file";
+    if (bytesOf(written) != bytesOf(color))
+        return values + "have " + hexOf(color) + " in the map, and " + hexOf(written) +
+               " in the file";
+    return {};
+}
+
+std::string lossOfAlpha(Form const& form, Model const& model, bool wantsAlpha) {
+    if (wantsAlpha)
+        return form.alpha || model.isOpaque ? ""
+                                            : "the form has no alpha, and all colours are opaque";
+    if (!model.alphaTells)
+        return {};
+    return std::string("the map's alpha is left out, and all colours are opaque") +
+           (form.alpha ? "; --alpha keeps it" : "");
+}
+
+}  // namespace
+
+std::vector<std::string> lossesOf(Form const& form, Model const& model, bool wantsAlpha,
+                                  bool hasRange) {
+    std::vector<std::string> losses;
+    auto const add = [&](bool isLost, std::string const& what) {
+        if (isLost && !what.empty())
+            losses.push_back(what);
+    };
+    std::size_t const stops = model.isClasses() ? model.pieces.size() : stopsOf(model).size();
+    add(true, lossOfAlpha(form, model, wantsAlpha));
+    add(true, lossBeside("below", form.below, model.below, model.pieces.front().start,
+                         model.changesBelow));
+    add(true,
+        lossBeside("above", form.above, model.above, model.pieces.back().end, model.changesAbove));
+    add(!form.missing, "no number has no colour, and has " + hexOf(model.missing) + " in the map");
+    add(!form.beyond && model.goesBeyond,
+        "the map's components go beyond 0 to 1, and are cut there");
+    add(!form.exactEdges && model.hasEdges(),
+        "hard edges stand near their places, and not to the last double");
+    add(form.maxStops > 0 && stops > static_cast<std::size_t>(form.maxStops),
+        "the map takes " + std::to_string(stops) + " colours, and the form holds " +
+            std::to_string(form.maxStops));
+    add(!form.values && hasRange, "the form has places from 0 to 1, and no data values");
+    add(!form.origin, "the form has no room for where it comes from");
+    add(!form.origin && !model.origin.label.empty(),
+        "the form has no room for the map's label, '" + model.origin.label + "'");
+    return losses;
+}
+
+}  // namespace workbench
