@@ -7,6 +7,7 @@
 #include "benchmarks/groups.hpp"
 #include "runtime/lattice/Catalogue.hpp"
 #include "workbench/session/objects.hpp"
+#include "workbench/session/parameters.hpp"
 
 namespace benchmarks {
 
@@ -40,7 +41,7 @@ std::string add(std::string const& name, LookUp lookUp) {
         for ([[maybe_unused]] auto _ : state) {
             float total = 0;
             for (double const value : values) {
-                Tessar::rgba_float_t const color = lookUp(value);
+                auto const color = lookUp(value);
                 total += (color[0] + color[1]) + (color[2] + color[3]);
             }
             benchmark::DoNotOptimize(total);
@@ -50,8 +51,14 @@ std::string add(std::string const& name, LookUp lookUp) {
     return name;
 }
 
-Orlo::ColormapPtr mapOf(std::string const& key) {
-    return workbench::update(*workbench::create(key), new Orlo::ValuePool);
+/// A parameter and its text.
+using Setting = std::pair<std::string, std::string>;
+
+Orlo::ColormapPtr mapOf(std::string const& key, std::vector<Setting> const& settings = {}) {
+    Orlo::ObjectPtr const object = workbench::create(key);
+    for (auto const& [name, text] : settings)
+        workbench::setParameter(*object, name, text, nullptr);
+    return workbench::update(*object, new Orlo::ValuePool);
 }
 
 /// A table with the map's own colours.
@@ -81,20 +88,53 @@ Group lookups() {
     return group;
 }
 
+namespace {
+
+/// A map with some of its parameters set, beside the same by hand. The floor of a map
+/// is that and the call, which is made without looking at what it gives.
+template <class Formula>
+void addFormula(Group& group, std::string const& key, std::vector<Setting> const& settings,
+                Formula formula) {
+    static std::shared_ptr<Lookup const> const empty = makeEmptyLookup();
+    std::string what = "`" + key + "`", name = key;
+    for (auto const& [parameter, text] : settings) {
+        what += ", \"" + parameter + "\" " + text;
+        name += " " + parameter + " " + text;
+    }
+    Orlo::ColormapPtr const map = mapOf(key, settings);
+    group.rows.push_back(
+        {what,
+         add("formula map " + name, [&m = *map, map](double value) { return m.getColor(value); }),
+         {add("by hand " + name, formula),
+          add("call and by hand " + name, [&e = *empty, formula](double value) {
+              e.getColor(value);
+              return formula(value);
+          })}});
+}
+
+}  // namespace
+
 Group formulaLookups() {
     Group group{"One lookup of a formula map, random scalars",
-                {"its bare arithmetic", "an empty virtual call"},
+                {"by hand, inlined", "the same and an empty virtual call"},
                 {}};
-    std::shared_ptr<Lookup const> const empty = makeEmptyLookup();
-    std::string const call =
-        add("empty virtual", [&e = *empty, empty](double value) { return e.getColor(value); });
-    for (auto const& [key, formula] : formulas()) {
-        Orlo::ColormapPtr const map = mapOf(key);
-        group.rows.push_back({"`" + key + "`",
-                              add("formula map " + key,
-                                  [&m = *map, map](double value) { return m.getColor(value); }),
-                              {add("bare " + key, formula), call}});
-    }
+    TwoGradients band;
+    band.epsilon = 0.1;
+    Hue square;
+    square.exponent = 2.0;
+    addFormula(group, "Colormaps/Colorramp", {}, Hue());
+    addFormula(group, "Colormaps/Colorramp", {{"exp_scale", "2"}}, square);
+    addFormula(group, "Colormaps/DopplerMap", {}, Lines());
+    addFormula(group, "Colormaps/Glow", {}, Parabola());
+    addFormula(group, "Colormaps/Intensitymap", {}, Line());
+    addFormula(group, "Colormaps/LogRedGreen", {}, ExponentialGradient());
+    addFormula(group, "Colormaps/Monochrome", {}, Constant());
+    addFormula(group, "Colormaps/Muv", {}, Gradient());
+    addFormula(group, "Colormaps/Ort", {}, ExponentialGradient());
+    addFormula(group, "Colormaps/RedGreen", {}, Gradient());
+    addFormula(group, "Colormaps/Zebramap", {}, Stripes());
+    addFormula(group, "Colormaps/ZeroInfinity", {}, TwoGradients());
+    addFormula(group, "Colormaps/ZeroInfinity", {{"epsilon", "0.1"}}, band);
     return group;
 }
 

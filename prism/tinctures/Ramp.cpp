@@ -1,6 +1,9 @@
 /// Hues round the colour circle, with brightness and saturation falling off.
 /// Its map is rewritten in place.
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdint>
 
 #include "host/creators/VSource.hpp"
 #include "host/object/TimeDependent.hpp"
@@ -71,43 +74,46 @@ private:
 };
 
 /// The hue in degrees, brought into one turn. A remainder just below 0 can come
-/// out as exactly 360.
+/// out as exactly 360. What is within a turn is its own remainder.
 float wrapped(float hue) {
-    auto const rest = static_cast<float>(std::fmod(double{hue}, 360.0));
+    float const rest =
+        std::fabs(hue) < 360.0F ? hue : static_cast<float>(std::fmod(double{hue}, 360.0));
     return rest < 0.0F ? rest + 360.0F : rest;
 }
 
-/// The colour of a hue in degrees, a saturation S and a brightness V, none of
-/// which is clamped.
-rgba_float_t hueColor(float hue, float S, float V) {
-    if (S == 0.0F || std::isnan(double{S}))
-        return {V, V, V, 1};
-    float const g = wrapped(hue) * 0.016666668F;
-    int const sixth = truncated(std::floor(double{g}));
-    float const f = g - static_cast<float>(sixth);
-    float const P = (1.0F - S) * V;
-    auto const Q = static_cast<float>((1.0 - double{f} * double{S}) * double{V});
-    auto const T = static_cast<float>(((double{f} - 1.0) * double{S} + 1.0) * double{V});
-    switch (sixth) {
-    case 0:
-        return {V, T, P, 1};
-    case 1:
-        return {Q, V, P, 1};
-    case 2:
-        return {P, V, T, 1};
-    case 3:
-        return {P, Q, V, 1};
-    case 4:
-        return {T, P, V, 1};
-    default:  // the last sixth, a full turn, and a hue that is no number
-        return {V, P, Q, 1};
-    }
+/// The four numbers of which a colour is made, and which of them red, green and blue
+/// are in each sixth of the circle. The last one takes a full turn as well, and a hue
+/// that is no number. Looked up, since nobody foresees a branch on the hue.
+enum Part : std::uint8_t { V, P, Q, T };
+constexpr std::array<std::array<Part, 3>, 6> Sixths{
+    {{V, T, P}, {Q, V, P}, {P, V, T}, {P, Q, V}, {T, P, V}, {V, P, Q}}};
+
+/// The colour of a hue in degrees, a saturation and a brightness, none of which is
+/// clamped.
+rgba_float_t hueColor(float hue, float saturation, float brightness) {
+    if (!(std::fabs(saturation) > 0.0F))  // none, or no number
+        return {brightness, brightness, brightness, 1};
+    float const g = wrapped(hue) * 0.016666668F;  // which is not negative
+    int const sixth = truncated(double{g});
+    double const f = double{g - static_cast<float>(sixth)}, S = double{saturation};
+    std::array<float, 4> const parts{
+        brightness, (1.0F - saturation) * brightness,
+        static_cast<float>((1.0 - f * S) * double{brightness}),
+        static_cast<float>(((f - 1.0) * S + 1.0) * double{brightness})};
+    auto const& [red, green, blue] = Sixths[std::min(static_cast<unsigned>(sixth), 5U)];
+    return {parts[red], parts[green], parts[blue], 1};
+}
+
+/// The power. An exponent of 1, the default, changes no number, and the power would
+/// take as long as all else.
+double power(double value, double exponent) {
+    return exponent == 1.0 ? value : std::pow(value, exponent);
 }
 
 /// The falloff `y` dims with its square and greys with its first power; beyond 1
 /// all is black. A "color" of 1 turns the circle ten times.
 rgba_float_t ColorRamp::Ramp::getColor(double value) const {
-    double const u = shift + std::pow(value, exp_scale);
+    double const u = shift + power(value, exp_scale);
     double const y = (saturator * color) * u;
     if (y > 1.0)
         return {0, 0, 0, 1};

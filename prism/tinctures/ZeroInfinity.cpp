@@ -71,12 +71,13 @@ private:
 };
 
 /// The arc tangent squeezes the real line into -1 to 1. It chooses the branch and
-/// nothing else: the gradients run over the lookup value itself.
+/// nothing else: the gradients run over the lookup value itself. It changes no sign,
+/// so that it is computed for a band only.
 rgba_float_t MyColormap::MyColorizer::getColor(double value) const {
-    double const d = timesTwoOverPi(std::atan(range(value)));
-    if (d > -epsilon && d < epsilon)
+    double const v = (range.maximum - range.minimum) * value + range.minimum;
+    if (epsilon > 0.0 && std::fabs(timesTwoOverPi(std::atan(v))) < epsilon)
         return zero;
-    if (d < 0.0)
+    if (v < 0.0)
         return blend(startnegative, value + 1.0, endnegative, -value);
     return blend(startpositive, 1.0 - value, endpositive, value);
 }

@@ -1,9 +1,7 @@
 /// The arithmetic that the formula maps share.
 #pragma once
 
-#include <cstddef>
-
-#include "host/colormap/rgba_float_t.hpp"
+#include "prism/tinctures/science/colorLanes.hpp"
 
 namespace prism {
 
@@ -14,20 +12,12 @@ constexpr double clamped(double x) noexcept {
     return belowMax > 0.0 ? belowMax : 0.0;
 }
 
-/// A component with a weight: the product of doubles, rounded to float.
-constexpr float weighted(float component, double weight) noexcept {
-    return static_cast<float>(double{component} * weight);
-}
-
 /// The sum of two weighted colours, alpha included. Both products are floats
 /// before they are added; nothing is clamped.
-constexpr Tessar::rgba_float_t blend(Tessar::rgba_float_t const& first, double firstWeight,
-                                     Tessar::rgba_float_t const& second,
-                                     double secondWeight) noexcept {
-    Tessar::rgba_float_t color;
-    for (std::size_t i = 0; i < 4; ++i)
-        color[i] = weighted(first[i], firstWeight) + weighted(second[i], secondWeight);
-    return color;
+inline Tessar::rgba_float_t blend(Tessar::rgba_float_t const& first, double firstWeight,
+                                  Tessar::rgba_float_t const& second,
+                                  double secondWeight) noexcept {
+    return colorOf(weighted(lanesOf(first), firstWeight) + weighted(lanesOf(second), secondWeight));
 }
 
 /// The weights of a gradient that can bend from its end colour towards the
@@ -39,17 +29,16 @@ struct BendWeights {
 };
 
 /// The colour at one position of such a gradient. The terms are floats before they
-/// are added; the complement counts as opaque.
-constexpr Tessar::rgba_float_t bend(Tessar::rgba_float_t const& start,
-                                    Tessar::rgba_float_t const& end,
-                                    BendWeights const& weights) noexcept {
-    Tessar::rgba_float_t color;
-    for (std::size_t i = 0; i < 3; ++i)
-        color[i] = weighted(1.0F - start[i], weights.complement) + weighted(end[i], weights.end) +
-                   weighted(start[i], weights.start);
-    color[3] = static_cast<float>(weights.complement) + weighted(start[3], weights.start) +
-               weighted(end[3], weights.end);
-    return color;
+/// are added. The complement counts as opaque, and alpha adds the term of the start
+/// colour first, not that of the end colour.
+inline Tessar::rgba_float_t bend(Tessar::rgba_float_t const& start, Tessar::rgba_float_t const& end,
+                                 BendWeights const& weights) noexcept {
+    Quad const opaque{1, 1, 1, 1}, transparent{};
+    Quad const first = weighted(lanesOf(start), weights.start);
+    Quad const last = weighted(lanesOf(end), weights.end);
+    Quad const complement =
+        weighted(opaque - withAlphaOf(lanesOf(start), transparent), weights.complement);
+    return colorOf(withAlphaOf(complement + last + first, complement + first + last));
 }
 
 }  // namespace prism
