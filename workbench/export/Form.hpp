@@ -27,10 +27,12 @@ struct Form {
     bool alpha = false;       ///< holds alpha
     bool beyond = false;      ///< holds components outside 0 to 1
     bool exactEdges = false;  ///< holds hard edges to the last double
+    bool points = true;       ///< holds a colour of the range's last double alone
     bool values = true;       ///< holds data values, not only places from 0 to 1
     bool origin = true;       ///< has room for where it comes from
     bool steps = false;       ///< has pieces of one colour only
-    int maxStops = 0;         ///< how many colours it holds; 0 for any number
+    int maxStops = 0;         ///< how many stops it holds; 0 for any number
+    int tableSize = 0;        ///< how many evenly spaced colours it holds, if it is a table
 
     /// The whole file.
     std::string (*write)(Model const& model);

@@ -8,7 +8,8 @@
 namespace workbench {
 
 std::vector<Form> const& forms() {
-    static std::vector<Form> const all{Csv, JsonForm};
+    static std::vector<Form> const all{MplPy,   ParaviewJson, VtkLut, GmtCpt,
+                                       GdalTxt, Gnuplot,      Csv,    JsonForm};
     return all;
 }
 
@@ -38,7 +39,9 @@ std::vector<std::string> limitsOf(Form const& form) {
     add(form.exactEdges, "edges to the last double");
     add(form.values, "data values");
     add(form.origin, "its origin");
-    add(form.maxStops == 0, "more than " + std::to_string(form.maxStops) + " colours");
+    add(form.maxStops == 0, "more than " + std::to_string(form.maxStops) + " stops");
+    add(form.tableSize == 0,
+        "more than " + std::to_string(form.tableSize) + " evenly spaced colours");
     return limits;
 }
 

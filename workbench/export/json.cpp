@@ -1,5 +1,4 @@
 /// JSON: the pieces as they are.
-#include <charconv>
 #include <nlohmann/json.hpp>
 
 #include "workbench/export/notation.hpp"
@@ -12,18 +11,10 @@ namespace {
 /// Keeps its keys in the order in which they are written.
 using Json = nlohmann::ordered_json;
 
-/// A float by the double that its shortest text means, which is written as short.
-double shortened(float component) {
-    std::string const text = shortestText(component);
-    double value = component;
-    std::from_chars(text.data(), text.data() + text.size(), value);
-    return value;
-}
-
 Json asJson(Orlo::rgba_float_t const& color) {
     Json components = Json::array();
     for (std::size_t i = 0; i < color.size(); ++i)
-        components.push_back(shortened(color[i]));
+        components.push_back(color[i]);
     return components;
 }
 

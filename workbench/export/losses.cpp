@@ -1,5 +1,9 @@
+#include <algorithm>
+#include <cmath>
+
 #include "workbench/export/Form.hpp"
 #include "workbench/export/notation.hpp"
+#include "workbench/export/table.hpp"
 
 namespace workbench {
 
@@ -42,20 +46,33 @@ std::vector<std::string> lossesOf(Form const& form, Model const& model, bool wan
         if (isLost && !what.empty())
             losses.push_back(what);
     };
+    std::size_t const table =
+        form.tableSize > 0 ? evenCount(model, static_cast<std::size_t>(form.tableSize)) : 0;
+    rgba_float_t first = model.pieces.front().start, last = model.pieces.back().end;
+    if (table > 0) {
+        first = evenColors(model, table).front();
+        last = evenColors(model, table).back();
+    }
     std::size_t const stops = model.isClasses() ? model.pieces.size() : stopsOf(model).size();
     add(true, lossOfAlpha(form, model, wantsAlpha));
-    add(true, lossBeside("below", form.below, model.below, model.pieces.front().start,
-                         model.changesBelow));
-    add(true,
-        lossBeside("above", form.above, model.above, model.pieces.back().end, model.changesAbove));
+    add(true, lossBeside("below", form.below, model.below, first, model.changesBelow));
+    add(true, lossBeside("above", form.above, model.above, last, model.changesAbove));
     add(!form.missing, "no number has no colour, and has " + hexOf(model.missing) + " in the map");
     add(!form.beyond && model.goesBeyond,
         "the map's components go beyond 0 to 1, and are cut there");
     add(!form.exactEdges && model.hasEdges(),
         "hard edges stand near their places, and not to the last double");
+    add(!form.points && model.pieces.back().from == model.range.max,
+        "the last value of the range has " + hexOf(model.pieces.back().start) +
+            " in the map, and the colour before it in the file");
     add(form.maxStops > 0 && stops > static_cast<std::size_t>(form.maxStops),
-        "the map takes " + std::to_string(stops) + " colours, and the form holds " +
+        "the map takes " + std::to_string(stops) + " stops, and the form holds " +
             std::to_string(form.maxStops));
+    double const off = table > 0 ? evenError(model, table) : 0.0;
+    add(off > std::max(model.error, 0.5 / 255) + 1e-6,
+        "the map is steeper in places than " + std::to_string(table) +
+            " evenly spaced colours, which are up to " +
+            shortestText(std::ceil(off * 1000) / 1000) + " off");
     add(!form.values && hasRange, "the form has places from 0 to 1, and no data values");
     add(!form.origin, "the form has no room for where it comes from");
     add(!form.origin && !model.origin.label.empty(),

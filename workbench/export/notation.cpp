@@ -56,17 +56,13 @@ std::string shortestText(double value) {
     return std::isnan(value) ? "nan" : Orlo::numberText(value);
 }
 
-std::string shortestText(float value) {
-    return std::isnan(value) ? "nan" : Orlo::numberText(value);
-}
-
 std::string byteText(rgba_float_t const& color, std::size_t count, char const* separator) {
     std::array<int, 4> const bytes = bytesOf(color);
     return joined(count, separator, [&](std::size_t i) { return std::to_string(bytes[i]); });
 }
 
 std::string floatText(rgba_float_t const& color, std::size_t count, char const* separator) {
-    return joined(count, separator, [&](std::size_t i) { return shortestText(color[i]); });
+    return joined(count, separator, [&](std::size_t i) { return shortestText(double{color[i]}); });
 }
 
 std::vector<std::string> aboutLines(Model const& model, int levels) {

@@ -19,10 +19,10 @@ std::string hexOf(Orlo::rgba_float_t const& color);
 
 /// The shortest text that reads back to the same number, "nan" for any NaN.
 std::string shortestText(double value);
-std::string shortestText(float value);
 
 /// The numbers of a colour between separators: so many components, as whole
-/// numbers from 0 to 255, or as floats.
+/// numbers from 0 to 255, or as the very doubles that the floats are: programs that
+/// read 0.9 as a double would round half of a 255th the other way.
 std::string byteText(Orlo::rgba_float_t const& color, std::size_t count, char const* separator);
 std::string floatText(Orlo::rgba_float_t const& color, std::size_t count, char const* separator);
 

@@ -6,6 +6,12 @@
 namespace workbench {
 
 extern Form const Csv;
+extern Form const GdalTxt;
+extern Form const GmtCpt;
+extern Form const Gnuplot;
 extern Form const JsonForm;
+extern Form const MplPy;
+extern Form const ParaviewJson;
+extern Form const VtkLut;
 
 }  // namespace workbench

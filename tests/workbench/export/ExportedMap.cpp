@@ -79,7 +79,7 @@ std::vector<Color> lookedUp(std::string const& key, std::vector<double> const& v
         Color color{};
         for (double& component : color) {
             words >> word;
-            component = cut(std::stod(word));
+            component = cut(double{static_cast<float>(std::stod(word))});
         }
         colors.push_back(color);
     }
