@@ -63,18 +63,24 @@ Size readSize(std::string const& text) {
     return size;
 }
 
-Interval readRange(std::string const& text) {
+std::optional<std::pair<double, double>> readPair(std::string_view text) {
     std::size_t const comma = text.find(',');
-    std::optional<double> min, max;
-    if (comma != std::string::npos) {
-        min = readNumber(std::string_view(text).substr(0, comma));
-        max = readNumber(std::string_view(text).substr(comma + 1));
-    }
-    if (!min || !max || !std::isfinite(*min) || !std::isfinite(*max) || !(*min < *max))
+    if (comma == std::string_view::npos)
+        return {};
+    std::optional<double> const first = readNumber(text.substr(0, comma));
+    std::optional<double> const second = readNumber(text.substr(comma + 1));
+    if (!first || !second || !std::isfinite(*first) || !std::isfinite(*second))
+        return {};
+    return std::pair(*first, *second);
+}
+
+Interval readRange(std::string const& text) {
+    auto const range = readPair(text);
+    if (!range || !(range->first < range->second))
         throw CallError("the range " + inQuotes(text) +
                         " is not of the form MIN,MAX with two finite numbers, the lower one "
                         "first, such as 0,1000");
-    return {*min, *max};
+    return {range->first, range->second};
 }
 
 }  // namespace workbench

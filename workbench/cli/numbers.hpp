@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "workbench/common/Interval.hpp"
 
@@ -27,6 +28,10 @@ struct Size {
 /// Reads "512x64". Throws `CallError` for other texts and for sizes outside 1
 /// to 16384.
 Size readSize(std::string const& text);
+
+/// Reads two finite numbers with a comma between them. Empty if the text means
+/// something else.
+std::optional<std::pair<double, double>> readPair(std::string_view text);
 
 /// Reads "0,1000". Throws `CallError` for other texts, and for numbers that are not
 /// finite or not in ascending order.

@@ -58,6 +58,18 @@ bool isWriteProtected(fs::path const& file, fs::perms permissions) {
     return !opened && (errno == EACCES || errno == EPERM || errno == EROFS);
 }
 
+/// What stands at a place where a file is to be written. Fails under the other
+/// name if it is a folder or write-protected.
+fs::file_status writableStatus(fs::path const& target, fs::path const& named) {
+    std::error_code ignored;
+    fs::file_status const status = fs::status(target, ignored);
+    if (fs::is_directory(status))
+        fail("write", named, "it is a folder");
+    if (fs::is_regular_file(status) && isWriteProtected(target, status.permissions()))
+        fail("write", named, "it is write-protected");
+    return status;
+}
+
 /// A name beside the file that nobody else uses.
 fs::path nameBeside(fs::path const& file) {
     fs::path name = file;
@@ -125,12 +137,8 @@ bool isSameFile(fs::path const& a, fs::path const& b) {
 void writeFile(fs::path const& file, std::string_view bytes) {
     std::error_code ignored;
     fs::path const target = followed(file);
-    fs::file_status const status = fs::status(target, ignored);
-    if (fs::is_directory(status))
-        fail("write", file, "it is a folder");
+    fs::file_status const status = writableStatus(target, file);
     bool const direct = fs::exists(status) && !fs::is_regular_file(status);
-    if (fs::is_regular_file(status) && isWriteProtected(target, status.permissions()))
-        fail("write", file, "it is write-protected");
     fs::path const written = direct ? target : nameBeside(target);
     std::string reason = tryWrite(written, bytes);
     if (direct && reason.empty())
@@ -144,6 +152,49 @@ void writeFile(fs::path const& file, std::string_view bytes) {
     if (!direct)
         fs::remove(written, ignored);
     fail("write", file, reason);
+}
+
+Draft::Draft(fs::path const& file)
+    : named_(file), target_(followed(file)), folder_(nameBeside(target_)) {
+    fs::file_status const status = writableStatus(target_, file);
+    if (fs::exists(status) && !fs::is_regular_file(status))
+        fail("write", file, "it is no regular file");
+    std::error_code error;
+    if (fs::create_directory(folder_, error))
+        fs::create_directory(scratch("").parent_path(), error);
+    if (error)
+        fail("write", file, error.default_error_condition().message());
+}
+
+Draft::~Draft() {
+    std::error_code ignored;
+    fs::remove_all(folder_, ignored);
+}
+
+fs::path Draft::file() const {
+    return folder_ / target_.filename();
+}
+
+fs::path Draft::scratch(std::string const& name) const {
+    return folder_ / "scratch" / name;
+}
+
+void Draft::keep(std::vector<fs::path> const& old) {
+    std::error_code ignored;
+    fs::file_status const status = fs::status(target_, ignored);
+    if (fs::exists(status))
+        fs::permissions(file(), status.permissions(), ignored);
+    std::vector<fs::path> made;
+    for (fs::directory_entry const& entry : fs::directory_iterator(folder_))
+        if (entry.is_regular_file() && entry.path() != file())
+            made.push_back(entry.path());
+    made.push_back(file());
+    for (fs::path const& each : old)
+        fs::remove(each, ignored);
+    for (fs::path const& each : made)
+        if (std::string const reason = tryRename(each, target_.parent_path() / each.filename());
+            !reason.empty())
+            fail("write", named_, reason);
 }
 
 }  // namespace workbench

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace workbench {
 
@@ -25,5 +26,37 @@ bool isSameFile(std::filesystem::path const& a, std::filesystem::path const& b);
 /// Throws `WorkError` that names the file and the reason; a file that stood there
 /// is unharmed then.
 void writeFile(std::filesystem::path const& file, std::string_view bytes);
+
+/// A file that somebody else writes, with others beside it: a folder next to its
+/// place, in which all of them are made under their own names. Until they are
+/// kept nothing has happened to the file, and what is not kept goes with the
+/// object.
+class Draft {
+public:
+    /// Throws `WorkError` that names the file if nothing can be written in its
+    /// place: it is a folder, a device or write-protected, or there is no folder
+    /// for it.
+    explicit Draft(std::filesystem::path const& file);
+    Draft(Draft const&) = delete;
+    Draft& operator=(Draft const&) = delete;
+    ~Draft();
+
+    /// The place of the file: where a symbolic link leads.
+    std::filesystem::path const& target() const { return target_; }
+    /// Where to write the file. Others that are to stay beside it go into the
+    /// same folder.
+    std::filesystem::path file() const;
+    /// A file for the way, which never stays.
+    std::filesystem::path scratch(std::string const& name) const;
+
+    /// Moves all files into their places, the file itself last, in place of the old
+    /// ones that are given. Throws `WorkError`.
+    void keep(std::vector<std::filesystem::path> const& old = {});
+
+private:
+    std::filesystem::path named_;   ///< as it was asked for
+    std::filesystem::path target_;  ///< where links lead
+    std::filesystem::path folder_;
+};
 
 }  // namespace workbench

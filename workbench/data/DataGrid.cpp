@@ -13,7 +13,8 @@ namespace workbench {
 
 namespace {
 
-using Opener = DataGrid* (*)(std::string const& name, int band);
+using Opener = DataGrid* (*)(std::string const& name, int band,
+                             std::optional<Resize> const& resize);
 
 /// The reader lies in a library beside the program, which is loaded when it is
 /// needed and stays: GDAL brings a hundred libraries, which would make every
@@ -37,9 +38,10 @@ bool readsGrids() noexcept {
     return true;
 }
 
-std::unique_ptr<DataGrid> openGrid(std::string const& name, int band) {
+std::unique_ptr<DataGrid> openGrid(std::string const& name, int band,
+                                   std::optional<Resize> const& resize) {
     static Opener const open = loadReader();
-    return std::unique_ptr<DataGrid>(open(name, band));
+    return std::unique_ptr<DataGrid>(open(name, band, resize));
 }
 
 #else
@@ -48,7 +50,7 @@ bool readsGrids() noexcept {
     return false;
 }
 
-std::unique_ptr<DataGrid> openGrid(std::string const&, int) {
+std::unique_ptr<DataGrid> openGrid(std::string const&, int, std::optional<Resize> const&) {
     throw WorkError(
         "this build of telmbench has no GDAL, without which it reads no grids; use a Linux build "
         "made where GDAL is installed (Debian: libgdal-dev)");

@@ -2,10 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <limits>
-#include <span>
-#include <vector>
+#include <utility>
 
 #include "workbench/common/errors.hpp"
 #include "workbench/common/inQuotes.hpp"
@@ -15,12 +13,7 @@ namespace workbench {
 
 namespace {
 
-/// Cells of one block of rows: 8 MB of values.
-constexpr int CellsAtOnce = 1 << 20;
-
-/// Cells of a whole grid: a picture of 400 MB in memory, and as much again to
-/// write it.
-constexpr std::int64_t MaxCells = 100'000'000;
+constexpr Rgba8 Transparent{0, 0, 0, 0};
 
 /// Takes the range of values to the domain of a map, linearly, and values
 /// beyond the one beyond the other. A range of one value goes to the middle.
@@ -45,35 +38,56 @@ private:
     Interval domain_;
 };
 
-using Block = std::function<void(int firstRow, std::span<double const> values)>;
+void look(Cells const& cells, Orlo::Colormap const& map, Scale const& scale,
+          std::vector<Rgba8>& pixels) {
+    pixels.resize(cells.window.size());
+    Rgba8* pixel = pixels.data();
+    cells.forEach([&](double value) {
+        *pixel++ = std::isnan(value) ? Transparent : opaque(map.getColor(scale(value)));
+    });
+}
 
-/// Hands a grid over from its top to its bottom, in blocks of whole rows.
-void overBlocks(DataGrid& grid, std::function<void(double)> const& progress, Block const& take) {
-    int const maxRows = std::clamp(CellsAtOnce / grid.width(), 1, grid.height());
-    std::vector<double> values(static_cast<std::size_t>(maxRows) *
-                               static_cast<std::size_t>(grid.width()));
-    for (int first = 0; first < grid.height(); first += maxRows) {
-        if (progress)
-            progress(1.0 * first / grid.height());
-        int const rows = std::min(maxRows, grid.height() - first);
-        std::span<double> const block(
-            values.data(), static_cast<std::size_t>(rows) * static_cast<std::size_t>(grid.width()));
-        grid.read(first, block);
-        take(first, block);
-    }
+void shade(Relief const& relief, Cells const& shades, std::vector<Rgba8>& pixels) {
+    Rgba8* pixel = pixels.data();
+    shades.forEach([&](double value) {
+        *pixel = relief.shaded(*pixel, std::isnan(value) ? 0 : static_cast<std::uint8_t>(value));
+        ++pixel;
+    });
+}
+
+/// Cells, and the range of their finite values.
+struct Measured {
+    Cells cells;
+    Interval range;
+};
+
+constexpr Interval Nothing{std::numeric_limits<double>::infinity(),
+                           -std::numeric_limits<double>::infinity()};
+
+void measure(Measured& piece) {
+    Interval range = Nothing;
+    if (!piece.cells.isVoid)
+        piece.cells.forEach([&](double value) {
+            if (std::isfinite(value))
+                range = {std::min(range.min, value), std::max(range.max, value)};
+        });
+    piece.range = range;
 }
 
 }  // namespace
 
-Interval rangeOf(DataGrid& grid, std::string const& name,
-                 std::function<void(double)> const& progress) {
-    constexpr double infinity = std::numeric_limits<double>::infinity();
-    Interval range{infinity, -infinity};
-    overBlocks(grid, progress, [&](int, std::span<double const> values) {
-        for (double const value : values)
-            if (std::isfinite(value))
-                range = {std::min(range.min, value), std::max(range.max, value)};
-    });
+Interval rangeOf(DataGrid& grid, std::string const& name, Progressing const& progress) {
+    Conveyor<Measured> pieces(
+        grid.windows(),
+        [&](Window const& window, Measured& piece) { grid.read(window, piece.cells); }, measure);
+    Interval range = Nothing;
+    double done = 0;
+    while (Measured const* const piece = pieces.next()) {
+        range = {std::min(range.min, piece->range.min), std::max(range.max, piece->range.max)};
+        done += 1;
+        if (progress)
+            progress(done / double(pieces.windows().size()));
+    }
     if (range.min > range.max)
         throw WorkError(inQuotes(name, 1000) +
                         " has no cell with a finite value, which leaves its range open; "
@@ -81,35 +95,27 @@ Interval rangeOf(DataGrid& grid, std::string const& name,
     return range;
 }
 
-Image paint(DataGrid& grid, Orlo::Colormap const& map, Interval const& range,
-            std::function<void(double)> const& progress) {
-    constexpr Rgba8 transparent{0, 0, 0, 0};
-    Image image(grid.width(), grid.height(), transparent);
-    Scale const scale(range, map);
-    overBlocks(grid, progress, [&](int y, std::span<double const> values) {
-        int x = 0;
-        for (double const value : values) {
-            if (!std::isnan(value))
-                image.at(x, y) = opaque(map.getColor(scale(value)));
-            if (++x == image.width()) {
-                x = 0;
-                ++y;
-            }
-        }
-    });
-    return image;
-}
+Painting::Painting(DataGrid& grid, std::vector<Window> windows, Paint const& paint)
+    : pieces_(
+          std::move(windows),
+          [&grid, paint](Window const& window, Piece& piece) {
+              grid.read(window, piece.cells);
+              if (paint.relief != nullptr && !piece.cells.isVoid)
+                  paint.relief->grid().read(window, piece.shades);
+          },
+          [paint, scale = Scale(paint.range, paint.map)](Piece& piece) {
+              if (piece.cells.isVoid)
+                  return;
+              look(piece.cells, paint.map, scale, piece.pixels);
+              if (paint.relief != nullptr)
+                  shade(*paint.relief, piece.shades, piece.pixels);
+          }) {}
 
-void checkPaintable(DataGrid const& grid, std::string const& name) {
-    constexpr int max = Image::MaxPixelsASide;
-    std::int64_t const cells = std::int64_t{grid.width()} * grid.height();
-    if (grid.width() <= max && grid.height() <= max && cells <= MaxCells)
-        return;
-    throw WorkError(inQuotes(name, 1000) + " has " + std::to_string(grid.width()) + " x " +
-                    std::to_string(grid.height()) + " cells, and a picture " + std::to_string(max) +
-                    " a side and " + std::to_string(MaxCells) +
-                    " in all at most; make the grid smaller first, for instance by "
-                    "'gdal_translate -outsize 8192 0'");
+std::span<Rgba8 const> Painting::next() {
+    Piece const* const piece = pieces_.next();
+    if (piece == nullptr || piece->cells.isVoid)
+        return {};
+    return piece->pixels;
 }
 
 }  // namespace workbench

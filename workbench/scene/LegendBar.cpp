@@ -49,8 +49,9 @@ void drawLabels(Image& image, PixelRect const& bar, Interval const& domain, Rgba
 
 }  // namespace
 
-LegendBar::LegendBar(Orlo::ColormapPtr const& map, LegendStyle const& style)
-    : map_(map), style_(style) {}
+LegendBar::LegendBar(Orlo::ColormapPtr const& map, LegendStyle const& style,
+                     std::optional<Interval> const& labels)
+    : map_(map), style_(style), labels_(labels) {}
 
 void LegendBar::drawOver(Image& image) const {
     PixelRect const bar = pixelRect(style_.position, style_.width, style_.height, image);
@@ -58,10 +59,52 @@ void LegendBar::drawOver(Image& image) const {
         return;
     Rgba8 const border = opaque(style_.bordercolor);
     if (map_) {
-        drawLabels(image, bar, domainOf(*map_), border);
+        drawLabels(image, bar, labels_.value_or(domainOf(*map_)), border);
         drawColors(image, bar, *map_);
     }
     drawFrame(image, bar, textScale(image), border);  // over the seams of the marks
+}
+
+Image legendPicture(Orlo::ColormapPtr const& map, Interval const& range) {
+    constexpr int Width = 180;
+    constexpr int Height = 640;
+    Image image(Width, Height, {255, 255, 255, 255});
+    LegendStyle const style{{0.0F, 0.0F, 0.0F, 1.0F}, {0.08, 0.03}, 0.94, 0.3};
+    LegendBar(map, style, range).drawOver(image);
+    return image;
+}
+
+std::string legendSvg(Orlo::Colormap const& map, Interval const& range) {
+    constexpr int Top = 10, Left = 10, Width = 40, Height = 512, Parts = 10;
+    auto const number = [](int value) { return std::to_string(value); };
+    auto const rect = [&](int y, int height, std::string const& style) {
+        return "<rect x=\"" + number(Left) + "\" y=\"" + number(y) + "\" width=\"" + number(Width) +
+               "\" height=\"" + number(height) + "\" " + style + "/>\n";
+    };
+    std::string svg =
+        "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"180\" height=\"532\" "
+        "viewBox=\"0 0 180 532\" font-family=\"sans-serif\" font-size=\"14\">\n"
+        "<g shape-rendering=\"crispEdges\">\n";
+    Interval const domain = domainOf(map);
+    auto const fillAt = [&](int row) {
+        Rgba8 const color = opaque(map.getColor(domain.at(Height - row - 0.5, Height)));
+        return "fill=\"rgb(" + number(color[0]) + "," + number(color[1]) + "," + number(color[2]) +
+               ")\"";
+    };
+    for (int row = 0, end = 0; row < Height; row = end) {  // rows of one colour are one
+        std::string const fill = fillAt(row);
+        for (end = row + 1; end < Height && fillAt(end) == fill;)
+            ++end;
+        svg += rect(Top + row, end - row, fill);
+    }
+    svg += "</g>\n" + rect(Top, Height, "fill=\"none\" stroke=\"black\"");
+    for (int i = 0; i <= Parts; ++i) {
+        std::string const y = number(Top + Height - Height * i / Parts);
+        svg += "<path d=\"M" + number(Left + Width) + " " + y + "h6\" stroke=\"black\"/>" +
+               "<text x=\"" + number(Left + Width + 10) + "\" y=\"" + y + "\" dy=\"0.35em\">" +
+               labelText(markValue(range.min, range.max, i, Parts)) + "</text>\n";
+    }
+    return svg + "</svg>\n";
 }
 
 }  // namespace workbench

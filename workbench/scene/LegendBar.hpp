@@ -1,7 +1,11 @@
 /// A bar that shows a colour map.
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "host/colormap/Colormap.hpp"
+#include "workbench/common/Interval.hpp"
 #include "workbench/scene/Renderable.hpp"
 #include "workbench/scene/geometry.hpp"
 
@@ -19,13 +23,21 @@ struct LegendStyle {
 /// colour of the value at its middle. Without a map only the frame is drawn.
 class LegendBar : public Renderable {
 public:
-    LegendBar(Orlo::ColormapPtr const& map, LegendStyle const& style);
+    /// The labels are those of the map's own domain, or of what stands for it.
+    LegendBar(Orlo::ColormapPtr const& map, LegendStyle const& style,
+              std::optional<Interval> const& labels = {});
 
     void drawOver(Image& image) const override;
 
 private:
     Orlo::ColormapPtr map_;
     LegendStyle style_;
+    std::optional<Interval> labels_;
 };
+
+/// A legend by itself: the bar of a map whose ends stand for that range, as a
+/// picture, and as the text of an SVG file.
+Image legendPicture(Orlo::ColormapPtr const& map, Interval const& range);
+std::string legendSvg(Orlo::Colormap const& map, Interval const& range);
 
 }  // namespace workbench

@@ -26,6 +26,8 @@ public:
     std::string const& key() const noexcept { return key_; }
     Orlo::VObject const& object() const { return *object_; }
     Orlo::Colormap const& map() const { return *map_; }
+    /// The same map, to be held.
+    Orlo::ColormapPtr const& heldMap() const { return map_; }
 
 private:
     std::string key_;

@@ -9,6 +9,7 @@
 #include "tests/workbench/data/GridFile.hpp"
 #include "workbench/common/errors.hpp"
 #include "workbench/common/files.hpp"
+#include "workbench/data/shape.hpp"
 #include "workbench/picture/png.hpp"
 
 namespace {
@@ -19,11 +20,16 @@ using workbench::openGrid;
 constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 
-std::vector<double> allOf(workbench::DataGrid& grid) {
-    std::vector<double> values(static_cast<std::size_t>(grid.width()) *
-                               static_cast<std::size_t>(grid.height()));
-    grid.read(0, values);
+std::vector<double> valuesIn(workbench::DataGrid& grid, workbench::Window const& window) {
+    workbench::Cells cells;
+    grid.read(window, cells);
+    std::vector<double> values;
+    cells.forEach([&](double value) { values.push_back(value); });
     return values;
+}
+
+std::vector<double> allOf(workbench::DataGrid& grid) {
+    return valuesIn(grid, {0, 0, grid.width(), grid.height()});
 }
 
 /// NaN equals NaN here.
@@ -47,11 +53,8 @@ TEST(DataGrid, IsReadInAnyOrder) {
     TemporaryFolder const folder;
     workbench::writeFile(folder / "a.asc", asciiGrid({{1, 2}, {3, 4}, {5, 6}, {7, 8}}));
     auto const grid = openGrid((folder / "a.asc").string());
-    std::vector<double> two(4), one(2);
-    grid->read(2, two);
-    grid->read(1, one);
-    expectValues(two, {5, 6, 7, 8});
-    expectValues(one, {3, 4});
+    expectValues(valuesIn(*grid, {0, 2, 2, 2}), {5, 6, 7, 8});
+    expectValues(valuesIn(*grid, {1, 0, 1, 2}), {2, 4});
 }
 
 TEST(DataGrid, KeepsInfinitiesAndTakesNaNForNoData) {
@@ -93,6 +96,45 @@ TEST(DataGrid, IsNamedWithinAFileOfSeveral) {
                                     nameOf("depth") + "', '" + nameOf("salt") + "'");
     }
     EXPECT_THROW(openGrid(nameOf("none")), workbench::WorkError);
+}
+
+/// How many windows cover each cell.
+std::vector<int> coverOf(std::vector<workbench::Window> const& windows, int width, int height) {
+    std::vector<int> cover(static_cast<std::size_t>(width * height));
+    for (workbench::Window const& each : windows)
+        for (int y = each.y; y < each.y + each.height; ++y)
+            for (int x = each.x; x < each.x + each.width; ++x)
+                ++cover.at(static_cast<std::size_t>(y * width + x));
+    return cover;
+}
+
+TEST(DataGrid, IsCoveredOnceByWindowsOfABoundedSize) {
+    struct {
+        int width, height, blockWidth, blockHeight;
+    } const table[] = {
+        {1, 1, 1, 1},           {3000, 700, 3000, 1},     {3000, 700, 3000, 700},
+        {3000, 700, 256, 256},  {700, 3000, 128, 128},    {3000, 700, 4096, 4096},
+        {2000, 900, 1999, 899}, {600'000, 3, 600'000, 1}, {600'000, 3, 512, 512},
+    };
+    for (auto const& each : table) {
+        for (auto const& windows :
+             {workbench::blockWindows(each.width, each.height, each.blockWidth, each.blockHeight),
+              workbench::rowWindows(each.width, each.height)}) {
+            SCOPED_TRACE(testing::Message() << each.width << " x " << each.height << ", blocks "
+                                            << each.blockWidth << " x " << each.blockHeight);
+            std::vector<int> const once(static_cast<std::size_t>(each.width * each.height), 1);
+            EXPECT_EQ(coverOf(windows, each.width, each.height), once);
+            for (workbench::Window const& window : windows)
+                EXPECT_LE(window.size(), 600'000U);
+        }
+    }
+}
+
+TEST(DataGrid, IsReadInWholeBlocksWhereTheyAreSmall) {
+    for (workbench::Window const& window : workbench::blockWindows(5000, 5000, 256, 256)) {
+        EXPECT_EQ(window.x % 256, 0);
+        EXPECT_EQ(window.y % 256, 0);
+    }
 }
 
 TEST(DataGrid, LeavesNothingBesideItsFile) {

@@ -1,6 +1,8 @@
 #include "tests/workbench/data/GridFile.hpp"
 
+#include <cpl_conv.h>
 #include <gdal.h>
+#include <ogr_srs_api.h>
 
 #include <charconv>
 #include <stdexcept>
@@ -48,15 +50,53 @@ std::string asciiGrid(Rows const& rows) {
     return text;
 }
 
-void writeGeoTiff(std::filesystem::path const& file, std::vector<Band> const& bands) {
+void writeGeoTiff(std::filesystem::path const& file, std::vector<Band> const& bands,
+                  GridFacts const& facts) {
     GDALAllRegister();
+    CPLSetConfigOption("GDAL_TIFF_INTERNAL_MASK", "YES");
     Rows const& rows = bands.front().rows;
     GDALDatasetH const dataset = GDALCreate(
         GDALGetDriverByName("GTiff"), file.c_str(), static_cast<int>(rows.front().size()),
-        static_cast<int>(rows.size()), static_cast<int>(bands.size()), GDT_Float64, nullptr);
+        static_cast<int>(rows.size()), static_cast<int>(bands.size()),
+        GDALGetDataTypeByName(facts.type.c_str()), nullptr);
     require(dataset != nullptr);
-    for (std::size_t i = 0; i < bands.size(); ++i)
-        writeBand(GDALGetRasterBand(dataset, static_cast<int>(i) + 1), bands[i]);
+    if (facts.transform) {
+        std::array<double, 6> transform = *facts.transform;
+        require(GDALSetGeoTransform(dataset, transform.data()) == CE_None);
+    }
+    if (facts.epsg != 0) {
+        OGRSpatialReferenceH const system = OSRNewSpatialReference(nullptr);
+        require(OSRImportFromEPSG(system, facts.epsg) == OGRERR_NONE);
+        require(GDALSetSpatialRef(dataset, system) == CE_None);
+        OSRDestroySpatialReference(system);
+    }
+    for (auto const& [name, text] : facts.metadata)
+        require(GDALSetMetadataItem(dataset, name.c_str(), text.c_str(), nullptr) == CE_None);
+    for (std::size_t i = 0; i < bands.size(); ++i) {
+        GDALRasterBandH const band = GDALGetRasterBand(dataset, static_cast<int>(i) + 1);
+        writeBand(band, bands[i]);
+        if (bands[i].mask.empty())
+            continue;
+        require(GDALCreateDatasetMaskBand(dataset, GMF_PER_DATASET) == CE_None);
+        writeBand(GDALGetMaskBand(band), {bands[i].mask});
+    }
+    GDALClose(dataset);
+}
+
+void writeSparseGeoTiff(std::filesystem::path const& file, int side,
+                        std::vector<Island> const& islands) {
+    GDALAllRegister();
+    char const* const options[] = {"SPARSE_OK=TRUE", "TILED=YES", "BIGTIFF=YES", nullptr};
+    GDALDatasetH const dataset = GDALCreate(GDALGetDriverByName("GTiff"), file.c_str(), side, side,
+                                            1, GDT_Float32, const_cast<char**>(options));
+    require(dataset != nullptr);
+    GDALRasterBandH const band = GDALGetRasterBand(dataset, 1);
+    require(GDALSetRasterNoDataValue(band, -1.0) == CE_None);
+    for (Island const& island : islands) {
+        double value = island.value;
+        require(GDALRasterIO(band, GF_Write, island.x, island.y, 1, 1, &value, 1, 1, GDT_Float64, 0,
+                             0) == CE_None);
+    }
     GDALClose(dataset);
 }
 
@@ -91,6 +131,16 @@ void writeTwoGrids(std::filesystem::path const& file) {
 std::string emptyGrid(int width, int height) {
     return "<VRTDataset rasterXSize=\"" + std::to_string(width) + "\" rasterYSize=\"" +
            std::to_string(height) + "\"><VRTRasterBand dataType=\"Byte\" band=\"1\"/></VRTDataset>";
+}
+
+std::string virtualGrid(std::string const& file, int width, int height) {
+    return "<VRTDataset rasterXSize=\"" + std::to_string(width) + "\" rasterYSize=\"" +
+           std::to_string(height) +
+           "\"><VRTRasterBand dataType=\"Float64\" band=\"1\"><SimpleSource><SourceFilename "
+           "relativeToVRT=\"1\">" +
+           file +
+           "</SourceFilename><SourceBand>1</SourceBand></SimpleSource></VRTRasterBand></"
+           "VRTDataset>";
 }
 
 }  // namespace tests

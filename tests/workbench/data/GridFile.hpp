@@ -1,7 +1,9 @@
 /// Small grids, made by the tests.
 #pragma once
 
+#include <array>
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,10 +22,29 @@ struct Band {
     std::optional<double> noData = {};
     double scale = 1.0;
     double offset = 0.0;
+    Rows mask = {};  ///< 0 where there is no data; nothing: no mask
 };
 
-/// Writes a GeoTIFF of doubles. All bands have the size of the first.
-void writeGeoTiff(std::filesystem::path const& file, std::vector<Band> const& bands);
+/// What a GeoTIFF tells of all its bands.
+struct GridFacts {
+    std::string type = "Float64";  ///< of the values, as GDAL names it
+    std::optional<std::array<double, 6>> transform = {};
+    int epsg = 0;  ///< the system of coordinates, or 0
+    std::map<std::string, std::string> metadata = {};
+};
+
+/// Writes a GeoTIFF. All bands have the size of the first.
+void writeGeoTiff(std::filesystem::path const& file, std::vector<Band> const& bands,
+                  GridFacts const& facts = {});
+
+/// Writes a GeoTIFF of 32-bit floats whose blocks have no data, and are not in the
+/// file, but for one cell at each of the places, which has a value.
+struct Island {
+    int x, y;
+    double value;
+};
+void writeSparseGeoTiff(std::filesystem::path const& file, int side,
+                        std::vector<Island> const& islands);
 
 /// Writes a NetCDF file with two grids of 1 x 2 cells, "depth" of 0 and 1 and
 /// "salt" of 2 and 3.
@@ -31,5 +52,8 @@ void writeTwoGrids(std::filesystem::path const& file);
 
 /// The text of a grid in GDAL's virtual format: any size, with all values 0.
 std::string emptyGrid(int width, int height);
+
+/// The text of a grid in GDAL's virtual format that shows another file.
+std::string virtualGrid(std::string const& file, int width, int height);
 
 }  // namespace tests

@@ -1,10 +1,10 @@
 /// `telmbench color`: each cell has the colour that a lookup gives.
 #include <cmath>
 #include <limits>
-#include <sstream>
 
 #include "tests/workbench/cli/telmbench.hpp"
 #include "tests/workbench/data/GridFile.hpp"
+#include "tests/workbench/data/lookedUp.hpp"
 #include "tests/workbench/picture/readPng.hpp"
 #include "workbench/common/files.hpp"
 #include "workbench/picture/png.hpp"
@@ -19,13 +19,17 @@ constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 constexpr Rgba8 Transparent{0, 0, 0, 0};
 
-/// The picture that the command draws of a grid; further arguments stand behind.
-Image color(std::string const& key, std::string const& grid, Lines const& more = {}) {
+Lines const WithPlace{"color.png", "color.png.aux.xml", "color.wld"};
+
+/// The PNG file that the command makes of a grid, and what lies beside it; further
+/// arguments stand behind.
+Image color(std::string const& key, std::string const& grid, Lines const& more = {},
+            Lines const& files = {"color.png"}) {
     TemporaryFolder const folder;
     Lines arguments{"color", key, grid, "-o", (folder / "color.png").string()};
     arguments.insert(arguments.end(), more.begin(), more.end());
     EXPECT_EQ(results(arguments), Lines{});
-    EXPECT_EQ(folder.names(), Lines{"color.png"});
+    EXPECT_EQ(folder.names(), files);
     std::optional<Image> const image = readPng(workbench::readFile(folder / "color.png"));
     EXPECT_TRUE(image);
     return image.value_or(Image(1, 1));
@@ -36,23 +40,6 @@ Image colorOf(std::string const& key, Rows const& rows, Lines const& more = {}) 
     TemporaryFolder const folder;
     writeGeoTiff(folder / "grid.tif", {{rows}});
     return color(key, (folder / "grid.tif").string(), more);
-}
-
-/// The pixels of values, as `telmbench lookup` gives their colours.
-std::vector<Rgba8> lookup(std::string const& key, Lines const& values, Lines const& more = {}) {
-    Lines arguments{"lookup", key};
-    arguments.insert(arguments.end(), values.begin(), values.end());
-    arguments.insert(arguments.end(), more.begin(), more.end());
-    std::vector<Rgba8> pixels;
-    for (std::string const& line : results(arguments)) {
-        std::istringstream words(line);
-        std::string value;
-        float red = 0, green = 0, blue = 0;
-        words >> value >> red >> green >> blue;
-        EXPECT_TRUE(words) << line;
-        pixels.push_back(workbench::opaque({red, green, blue, 1}));
-    }
-    return pixels;
 }
 
 TEST(Color, SpansTheMapOverTheRangeOfTheData) {
@@ -77,7 +64,7 @@ TEST(Color, TakesNegativeRanges) {
 TEST(Color, LeavesCellsWithoutDataTransparentAndOutOfTheRange) {
     TemporaryFolder const folder;
     workbench::writeFile(folder / "grid.asc", asciiGrid({{0, -9999, 4}, {-9999, 1, 2}}));
-    Image const image = color("Hypsometric", (folder / "grid.asc").string());
+    Image const image = color("Hypsometric", (folder / "grid.asc").string(), {}, WithPlace);
     std::vector<Rgba8> const colors = lookup("Hypsometric", {"0", "1", "0.25", "0.5"});
     EXPECT_EQ(image.pixels(), (std::vector<Rgba8>{colors[0], Transparent, colors[1], Transparent,
                                                   colors[2], colors[3]}));
@@ -141,7 +128,7 @@ TEST(Color, PaintsEveryRowOfALargeGrid) {
 
 TEST(Color, PaintsTheExample) {
     Image const image =
-        color("Topographic", PRISM_DATA_EXAMPLES "/hills.asc", {"--range", "0,1000"});
+        color("Topographic", PRISM_DATA_EXAMPLES "/hills.asc", {"--range", "0,1000"}, WithPlace);
     EXPECT_EQ(image.width(), 72);
     EXPECT_EQ(image.height(), 48);
     EXPECT_EQ(image.at(0, 0), Transparent);
