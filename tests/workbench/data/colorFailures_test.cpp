@@ -318,7 +318,9 @@ TEST(ColorFailures, AFullDiskLeavesNothing) {
             EXPECT_TRUE(result.err.starts_with("telmbench: cannot write ")) << result.err;
             EXPECT_EQ(contentsOf(folder), before);
         }
-        EXPECT_EQ(limited("--fsize=" + std::to_string(size), call).status, 0);
+        if (more.size() == 1) {  // a file on the way is larger than the optimised one
+            EXPECT_EQ(limited("--fsize=" + std::to_string(size), call).status, 0);
+        }
         clean(folder, before);
     }
 }
