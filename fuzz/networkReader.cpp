@@ -5,10 +5,9 @@
 /// into a script changes the lines of its place and no other.
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 
+#include "fuzz/require.hpp"
 #include "workbench/common/errors.hpp"
 #include "workbench/network/Script.hpp"
 #include "workbench/network/editScript.hpp"
@@ -16,13 +15,6 @@
 using namespace workbench;
 
 namespace {
-
-void require(bool holds, char const* what, std::string const& text) {
-    if (holds)
-        return;
-    std::fprintf(stderr, "%s: '%s'\n", what, text.c_str());
-    std::abort();
-}
 
 /// The line behind an announcement is only understood there.
 bool standsAlone(Meaning const& meaning) {

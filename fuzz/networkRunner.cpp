@@ -4,10 +4,9 @@
 /// drawn, small, and it is saved with the lines that it was read from.
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 
+#include "fuzz/require.hpp"
 #include "workbench/common/errors.hpp"
 #include "workbench/network/Network.hpp"
 #include "workbench/nodes/NodeCreators.hpp"
@@ -16,13 +15,6 @@
 using namespace workbench;
 
 namespace {
-
-void require(bool holds, char const* what, std::string const& text) {
-    if (holds)
-        return;
-    std::fprintf(stderr, "%s: '%s'\n", what, text.c_str());
-    std::abort();
-}
 
 /// Sets a value, whether the network takes it or not.
 void trySet(Network& network, std::string const& place, std::string const& text) {

@@ -51,6 +51,7 @@ OTHER_STATEMENTS = {
     "static_assert", "public", "private", "protected", "case", "default", "throw", "try", "catch",
     "switch", "for", "while", "do", "friend", "delete", "continue", "else", "virtual", "explicit",
     "inline", "constexpr", "static", "const", "auto", "mutable", "noexcept", "requires", "operator",
+    "asm",
 }
 
 
@@ -169,8 +170,9 @@ def is_text(tokens, i):
 
 def constant(source, start, end, text, what="constant"):
     edit = start, end, lambda n: f"mutant::pick({n}, {source[start:end]}, {text})"
+    line = source[source.rfind("\n", 0, start) + 1:start]
     compiler_needs_it = (source[start - 1:start] == "<" or source[end:end + 1] == ">"
-                         or source[:start].endswith("case "))
+                         or source[:start].endswith("case ") or "[[" in line or "static constexpr" in line)
     return Change(start, end, what, text, () if compiler_needs_it else (edit,))
 
 
@@ -399,8 +401,9 @@ def is_declaration(tokens):
 def runs_of(block, is_body):
     """The longest rows of neighbours of which each two can be swapped."""
     runs, run = [], []
-    for statement in [*block, None]:
-        if statement and (is_step(statement) if is_body else is_member(statement)):
+    for statement, following in zip([*block, None], [*block[1:], None, None]):
+        has_else = following and following.tokens[0].text == "else"
+        if statement and not has_else and (is_step(statement) if is_body else is_member(statement)):
             run.append(statement)
         else:
             runs.append(run)
@@ -424,9 +427,10 @@ def is_member(statement):
 # --- All changes at once
 
 def woven(source, numbered):
-    """The source with the numbered mutations built in, and the lines on which
-    each one stands there. Variables can be `constexpr` no longer; functions can,
-    and show no change to the compiler."""
+    """The source with the numbered mutations built in, the lines on which each
+    one stands there, and the numbers of those that the compiler may not see:
+    variables can be `constexpr` no longer; functions can, and show no change to
+    the compiler. It can assert nothing any more."""
     edits, runs = [], {}
     for number, each in numbered:
         for start, end, text in each.change.edits:
@@ -436,23 +440,27 @@ def woven(source, numbered):
     for run, swaps in runs.items():
         edits += run_edits(source, run, swaps)
     quiet = []
+    for match in re.finditer(r"^[ \t]*static_assert\([^;]*;", source if edits else "", re.MULTILINE):
+        edits = [edit for edit in edits if not match.start() <= edit[0] < match.end()]
+        edits.append((match.start(), match.end(), 0, "\n" * match.group().count("\n"), []))
     for match in re.finditer(r"^([ \t]*)constexpr ", source if edits else "", re.MULTILINE):
         if re.search(r"[({=;]", source[match.end():]).group() == "(":
             quiet.append((match.start(), end_of_function(source, match.end())))
         else:
             text = "const " if match.group(1) else "inline const "
             edits.append((match.end(1), match.end(), 0, text, []))
-    result, at, lines = "", 0, {}
+    result, at, lines, unseen = "", 0, {}, set()
     for start, end, _, text, numbers in sorted(edits, key=lambda edit: edit[:3]):
         if any(first <= start < last for first, last in quiet):
             text = text.replace("mutant::pick(", "mutant::quietPick(")
+            unseen.update(numbers)
         result += source[at:start]
         first = result.count("\n") + 1
         result += text
         at = end
         for number in numbers:
             lines.setdefault(number, set()).update(range(first, result.count("\n") + 2))
-    return result + source[at:], lines
+    return result + source[at:], lines, unseen
 
 
 def end_of_function(source, start):

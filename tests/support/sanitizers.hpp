@@ -18,3 +18,15 @@
 #else
 #define TESTS_THREAD_SANITIZER 0
 #endif
+
+namespace tests {
+
+/// How many links a chain has that no stack is deep enough for. A sanitizer's frames
+/// are several times as large, and its allocations dear.
+#if TESTS_ADDRESS_SANITIZER || TESTS_THREAD_SANITIZER
+constexpr int LongChain = 20'000;
+#else
+constexpr int LongChain = 100'000;
+#endif
+
+}  // namespace tests

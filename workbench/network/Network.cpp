@@ -431,16 +431,16 @@ std::size_t Network::lineOf(string const& object, string const& parameter) const
 
 // --- changes
 
-void Network::set(string const& text, string const& value) {
-    auto const path = valuePathOf(text);
-    if (!path)
-        throw CallError(inQuotes(text) + " is no place of a value; it must have the form " +
+void Network::set(string const& path, string const& text) {
+    auto const place = valuePathOf(path);
+    if (!place)
+        throw CallError(inQuotes(path) + " is no place of a value; it must have the form " +
                         "OBJECT.NAME or OBJECT.NAME{CONTEXT}");
-    checkWritable(*path, value);
-    if (isAttribute(path->name) && path->context.empty())
-        setAttribute(*path, value);
+    checkWritable(*place, text);
+    if (isAttribute(place->name) && place->context.empty())
+        setAttribute(*place, text);
     else
-        setValue(*path, value);
+        setValue(*place, text);
 }
 
 void Network::setAttribute(ValuePath const& path, string const& text) {

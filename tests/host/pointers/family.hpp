@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <ostream>
 
 #include "host/pointers/StrongPtr.hpp"
 
@@ -45,5 +46,19 @@ using StrongOther = Nucleo::StrongPtr<OtherLeaf, Root>;
 using WeakRoot = Nucleo::WeakPtr<Root, Root>;
 using WeakLeaf = Nucleo::WeakPtr<Leaf, Root>;
 using Block = Nucleo::ControlBlock<Root>;
+
+/// Both counts of a block.
+struct Counts {
+    int strong, weak;
+    bool operator==(Counts const&) const = default;
+    friend std::ostream& operator<<(std::ostream& out, Counts const& counts) {
+        return out << "strong " << counts.strong << ", weak " << counts.weak;
+    }
+};
+
+template <class Pointer>
+Counts countsOf(Pointer const& pointer) {
+    return {pointer.controlBlock()->strongNow(), pointer.controlBlock()->weakNow()};
+}
 
 }  // namespace tests

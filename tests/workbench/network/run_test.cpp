@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/Process.hpp"
+#include "tests/support/sanitizers.hpp"
 #include "workbench/common/files.hpp"
 
 namespace workbench {
@@ -215,7 +216,7 @@ TEST_F(Run, ADamagedNetworkWithoutItsViewerIsNoWrongCall) {
 
 /// Each object reads the one before, whichever is connected first.
 TEST_F(Run, CarriesOutAChainOfAnyLength) {
-    constexpr int Length = 60'000;
+    constexpr int Length = tests::LongChain * 6 / 10;
     std::string objects = "# TelmScript Preliminiary Experimental \n";
     for (int i = 0; i <= Length; ++i)
         objects += "# Expecting procedurally object:  K" + std::to_string(i) + "\n";
