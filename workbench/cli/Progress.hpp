@@ -1,6 +1,7 @@
 /// What a person at a terminal sees of long work.
 #pragma once
 
+#include <chrono>
 #include <string>
 
 namespace workbench {
@@ -16,13 +17,20 @@ public:
 
     /// Shows that there is work whose end nobody can foretell.
     void begin();
-    /// Shows the part that is done, from 0 to 1.
+    /// Shows the part that is done, from 0 to 1, and after a while how long the
+    /// rest will take.
     void show(double part);
 
 private:
+    using Clock = std::chrono::steady_clock;
+
+    std::string remaining(double part) const;
+    void print(std::string const& line);
+
     std::string label_;
     bool visible_;
-    int shown_ = -1;  ///< the percentage on the line, or -1 for no line
+    Clock::time_point start_ = Clock::now();
+    std::string shown_;  ///< what stands on the line
 };
 
 }  // namespace workbench
