@@ -283,6 +283,11 @@ private:
     bool holdsFloats_;  ///< whether floats hold all values
 };
 
+/// Threads of GDAL's own have nobody who listens.
+void keepQuiet() {
+    CPLSetErrorHandler(CPLQuietErrorHandler);
+}
+
 /// What GDAL keeps of blocks that were read and of those to be written, unless
 /// somebody has chosen for all programs: enough for a row of blocks.
 void limitCache() {
@@ -298,7 +303,8 @@ void limitCache() {
 /// The one export. The caller owns the grid.
 extern "C" __attribute__((visibility("default"))) workbench::DataGrid* openGdalGrid(
     std::string const& name, int band, std::optional<workbench::Resize> const& resize) {
-    static bool const ready = (GDALAllRegister(), workbench::limitCache(), true);
+    static bool const ready =
+        (GDALAllRegister(), workbench::keepQuiet(), workbench::limitCache(), true);
     static_cast<void>(ready);
     return new workbench::GdalGrid(name, band, resize);
 }

@@ -25,6 +25,8 @@ struct Writer {
     int bands;  ///< without the fourth there is no transparency
     std::vector<char const*> options;
     char const* end;  ///< the last bytes of a whole file, where the form has such
+    /// Cells that it takes, as it keeps the whole picture in memory; 0: all.
+    std::int64_t maxCells = 0;
 };
 
 Writer const& writerOf(PictureForm form) {
@@ -35,12 +37,11 @@ Writer const& writerOf(PictureForm form) {
          "cloud-optimised GeoTIFF",
          "COG",
          4,
-         {"OVERVIEW_RESAMPLING=NEAREST", "COMPRESS=DEFLATE", "NUM_THREADS=ALL_CPUS",
-          "BIGTIFF=IF_SAFER"},
+         {"COMPRESS=DEFLATE", "NUM_THREADS=ALL_CPUS", "BIGTIFF=IF_SAFER"},
          ""},
         {Png, "PNG", "PNG", 4, {"WORLDFILE=YES"}, "IEND\xAE\x42\x60\x82"},
-        {Jpeg, "JPEG", "JPEG", 3, {"WORLDFILE=YES", "QUALITY=95"}, "\xFF\xD9"},
-        {WebP, "WebP", "WEBP", 4, {"LOSSLESS=YES", "EXACT=YES"}, ""},
+        {Jpeg, "JPEG", "JPEG", 3, {"WORLDFILE=YES", "QUALITY=95"}, "\xFF\xD9", 40'000'000},
+        {WebP, "WebP", "WEBP", 4, {"LOSSLESS=YES", "EXACT=YES"}, "", 4'000'000},
     };
     return *std::ranges::find(writers, form, &Writer::form);
 }
@@ -121,6 +122,27 @@ void writeTiff(PictureSource const& source, PictureOrder const& order, fs::path 
     }
     picture.reset();
     if (complaints.failed())
+        fail(order, complaints.text());
+}
+
+/// Adds smaller copies of a GeoTIFF to it, each half as wide as the one before,
+/// until one is small. The writer of cloud-optimised ones makes them in more memory.
+void addOverviews(PictureOrder const& order, Passage& passage) {
+    constexpr int Small = 512;
+    Complaints const complaints;
+    Dataset const picture(GDALOpen(textOf(order.scratch).c_str(), GA_Update));
+    if (!picture)
+        fail(order, complaints.text());
+    std::vector<int> factors;
+    int const side = std::max(GDALGetRasterXSize(picture.get()), GDALGetRasterYSize(picture.get()));
+    for (int factor = 2; side / factor >= Small / 2; factor *= 2)
+        factors.push_back(factor);
+    bool const done =
+        factors.empty() ||
+        GDALBuildOverviews(picture.get(), "NEAREST", static_cast<int>(factors.size()),
+                           factors.data(), 0, nullptr, Passage::progress, &passage) == CE_None;
+    passage.goOn();
+    if (!done || complaints.failed())
         fail(order, complaints.text());
 }
 
@@ -286,15 +308,13 @@ void checkEnd(PictureOrder const& order) {
         fail(order, "its end is missing");
 }
 
-/// WebP's writer keeps the whole picture in memory, and several numbers for each
-/// of its pixels.
 void checkSize(PictureSource const& source, PictureOrder const& order) {
-    constexpr std::int64_t MaxPixels = 4'000'000;
+    Writer const& writer = writerOf(order.form);
     auto& grid = *GDALDataset::FromHandle(source.dataset);
-    if (order.form == PictureForm::WebP &&
-        std::int64_t{grid.GetRasterXSize()} * grid.GetRasterYSize() > MaxPixels)
-        throw WorkError("WebP is written from memory, and so for up to " +
-                        std::to_string(MaxPixels) +
+    std::int64_t const cells = std::int64_t{grid.GetRasterXSize()} * grid.GetRasterYSize();
+    if (writer.maxCells != 0 && cells > writer.maxCells)
+        throw WorkError(std::string(writer.name) + " is written from memory, and so for up to " +
+                        std::to_string(writer.maxCells) +
                         " cells; use .tif or .png, or --resize the grid");
 }
 
@@ -313,6 +333,7 @@ void writePicture(PictureSource const& source, PictureOrder const& order, PixelS
         writeTiff(source, order, order.file, pixels, progress);
     } else if (order.form == PictureForm::CloudOptimized) {
         writeTiff(source, order, order.scratch, pixels, progress);
+        addOverviews(order, passage);
         Dataset const painted(GDALOpen(textOf(order.scratch).c_str(), GA_ReadOnly));
         if (!painted)
             fail(order, "what was painted cannot be read again");

@@ -93,6 +93,11 @@ FailureCase const cases[] = {
      "WebP is written from memory, and so for up to 4000000 cells; use .tif or .png, or --resize "
      "the grid",
      "new.webp"},
+    {"too large for JPEG",
+     {"Glow", "{folder}/larger.vrt", "--range", "0,1"},
+     WorkFailed,
+     "JPEG is written from memory, and so for up to 40000000 cells; ",
+     "new.jpg"},
     {"too wide for JPEG",
      {"Glow", "{folder}/wide.vrt", "--range", "0,1"},
      WorkFailed,
@@ -174,6 +179,7 @@ void fill(TemporaryFolder const& folder) {
     workbench::writeFile(folder / "empty.tif", "");
     workbench::writeFile(folder / "wide.vrt", emptyGrid(65536, 1));
     workbench::writeFile(folder / "huge.vrt", emptyGrid(2001, 2000));
+    workbench::writeFile(folder / "larger.vrt", emptyGrid(20'000, 2001));
 }
 
 /// The program with a limit that `prlimit` sets.

@@ -448,7 +448,9 @@ TEST(ColorInLittleMemory, PaintsAFullGridThatIsLarger) {
     TemporaryFolder const folder;
     workbench::writeFile(folder / "grid.tif", emptyGrid(20'000, 4'000));
     paintInLittleMemory(folder, {"--range", "0,4", "-o", textOf(folder / "new.png")});
-    EXPECT_EQ(readPainted(folder / "new.png", 19'999, 0, 1, 1), lookup("Hypsometric", {"0"}));
+    paintInLittleMemory(folder, {"--range", "0,4", "--cog", "-o", textOf(folder / "new.tif")});
+    for (char const* const name : {"new.png", "new.tif"})
+        EXPECT_EQ(readPainted(folder / name, 19'999, 0, 1, 1), lookup("Hypsometric", {"0"}));
 }
 
 }  // namespace
