@@ -54,6 +54,13 @@ TEST(Documents, AreShortEnoughToBeRead) {
         EXPECT_LE(fs::file_size(document), MaxBytes) << document.filename().generic_string();
 }
 
+/// The benchmarks run plug-ins, which write to standard output by themselves.
+TEST(Documents, TakeNothingThatPlugInsSayForResults) {
+    for (fs::path const& document : documents())
+        EXPECT_EQ(textOf(document).find("\nwe have colors"), std::string::npos)
+            << document.filename().generic_string();
+}
+
 /// The folders of the sources, such as "workbench/nodes": those that hold a
 /// source or a header themselves.
 std::set<std::string> sourceFolders() {

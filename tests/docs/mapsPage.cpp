@@ -63,9 +63,8 @@ std::vector<Entry> allEntries() {
 /// The source that makes an entry, below the root. The catalogue has it without
 /// its ending, or, for an entry with no more than a key, not at all.
 std::string sourceOf(Entry const& entry, fs::path const& root) {
-    std::string const named = entry.catalogue["source"];
-    if (!named.empty())
-        return named + ".cpp";
+    if (Json const& named = entry.catalogue["source"]; !named.is_null())
+        return std::string(named) + ".cpp";
     std::string const key = "\"" + std::string(entry.catalogue["key"]) + "\"";
     for (auto const& each : fs::directory_iterator(root / "prism/tinctures"))
         if (each.path().extension() == ".cpp" && readFile(each).find(key) != std::string::npos)

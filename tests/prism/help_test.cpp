@@ -21,8 +21,9 @@ TEST_P(Help, GivesLinkLongTextAndForAnyOtherTypeTheShortText) {
     Orlo::ObjectPtr const object = create(GetParam().key());
     EXPECT_EQ(object->help(VObject::HelpLink), orShort(row().link));
     EXPECT_EQ(object->help(VObject::LongHelp), orShort(row().longText));
-    for (int const type : {0, 3})
-        EXPECT_EQ(object->help(static_cast<VObject::HelpType>(type)), row().shortText) << type;
+    // Braces take a number for types only that hold every number.
+    for (int const type : {0, 3, 99, -1})
+        EXPECT_EQ(object->help(VObject::HelpType{type}), row().shortText) << type;
 }
 
 INSTANTIATE_TEST_SUITE_P(Maps, Help, testing::ValuesIn(describedMaps()),

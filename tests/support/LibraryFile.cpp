@@ -39,7 +39,7 @@ std::string LibraryFile::text(std::size_t offset) const {
 // --- ELF
 
 void LibraryFile::readElf() {
-    constexpr std::size_t DynamicSection = 6, DynamicSymbols = 11, NoBits = 8;
+    constexpr std::size_t DynamicSection = 6, DynamicSymbols = 11, NoBits = 8, WriteFlag = 1;
     std::size_t const table = number<std::uint64_t>(0x28);
     std::size_t const width = number<std::uint16_t>(0x3a), count = number<std::uint16_t>(0x3c);
     auto const header = [&](std::size_t index) { return table + index * width; };
@@ -51,9 +51,11 @@ void LibraryFile::readElf() {
         std::size_t const type = number<std::uint32_t>(header(i) + 4);
         std::size_t const size = number<std::uint64_t>(header(i) + 0x20);
         std::size_t const texts = offsetOf(number<std::uint32_t>(header(i) + 0x28));
+        std::string const name = text(names + number<std::uint32_t>(header(i)));
         if (type != NoBits)
-            sections[text(names + number<std::uint32_t>(header(i)))] =
-                bytes_.substr(offsetOf(i), size);
+            sections[name] = bytes_.substr(offsetOf(i), size);
+        if ((number<std::uint64_t>(header(i) + 8) & WriteFlag) != 0)
+            writable.insert(name);
         if (type == DynamicSection)
             readElfDynamic(offsetOf(i), size, texts);
         if (type == DynamicSymbols)
@@ -92,6 +94,7 @@ void LibraryFile::readElfSymbols(std::size_t offset, std::size_t size, std::size
 // --- PE
 
 void LibraryFile::readPe() {
+    constexpr std::size_t WriteFlag = 0x80000000;
     std::size_t const start = number<std::uint32_t>(0x3c);
     std::size_t const optional = start + 24;
     if (text(start) != "PE" || number<std::uint16_t>(optional) != 0x20b)
@@ -106,6 +109,8 @@ void LibraryFile::readPe() {
                                 number<std::uint32_t>(header + 20)};
         peSections_.push_back(section);
         sections[name] = bytes_.substr(section.offset, section.size);
+        if ((number<std::uint32_t>(header + 36) & WriteFlag) != 0)
+            writable.insert(name);
     }
     readPeExports(number<std::uint32_t>(optional + 112));
     readPeImports(number<std::uint32_t>(optional + 120));

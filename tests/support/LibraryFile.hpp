@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,7 @@ struct LibraryFile {
     std::vector<std::string> runPaths;            ///< where it looks for them (ELF)
     std::vector<std::string> uniqueSymbols;       ///< names that would keep it loaded (ELF)
     std::map<std::string, std::string> sections;  ///< contents by name
+    std::set<std::string> writable;               ///< the names of those that may be written to
 
 private:
     void readElf();

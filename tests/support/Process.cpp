@@ -143,6 +143,8 @@ ProcessResult runProcess(fs::path const& program, std::vector<std::string> const
     Streams streams{folder / "in", folder / "out", folder / "err"};
     if (!redirection.out.empty())
         streams.out = redirection.out;
+    if (!redirection.err.empty())
+        streams.err = redirection.err;
     if (!redirection.in.empty())
         streams.in = redirection.in;
     else
@@ -151,7 +153,8 @@ ProcessResult runProcess(fs::path const& program, std::vector<std::string> const
     result.status = runToEnd(program, arguments, streams);
     if (redirection.out.empty())
         result.out = readAll(streams.out);
-    result.err = readAll(streams.err);
+    if (redirection.err.empty())
+        result.err = readAll(streams.err);
     return result;
 }
 

@@ -23,6 +23,7 @@ struct ProcessResult {
 struct Redirection {
     std::filesystem::path out = {};
     std::filesystem::path in = {};
+    std::filesystem::path err = {};
 };
 
 /// Runs a program with arguments in UTF-8 to its end, with the given bytes as

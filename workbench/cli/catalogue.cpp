@@ -32,15 +32,29 @@ std::string joined(std::vector<std::string> const& words) {
     return text;
 }
 
+/// A text of the entry, which may be empty; null where it sets none.
+Json textAsJson(VCreatorBase const& entry, VCreatorBase::Key key) {
+    return entry.isSet(key) ? Json(entry.get(key)) : Json();
+}
+
 Json entryAsJson(VCreatorBase const& entry) {
     return {{"key", entry.keyname("/")},
             {"order", entry.orderNumber()},
             {"preferences", preferenceWords(entry)},
-            {"description", entry.get(VCreatorBase::Description)},
+            {"description", textAsJson(entry, VCreatorBase::Description)},
             {"tags", tagsOf(entry)},
-            {"source", entry.get(VCreatorBase::Source)},
-            {"date", entry.get(VCreatorBase::Date)},
-            {"todo", entry.get(VCreatorBase::Todo)}};
+            {"source", textAsJson(entry, VCreatorBase::Source)},
+            {"date", textAsJson(entry, VCreatorBase::Date)},
+            {"todo", textAsJson(entry, VCreatorBase::Todo)}};
+}
+
+/// The line of the description, which may be set and yet empty; nothing where none
+/// is set.
+std::string descriptionAsText(VCreatorBase const& entry) {
+    std::string const& text = entry.get(VCreatorBase::Description);
+    if (!entry.isSet(VCreatorBase::Description))
+        return {};
+    return "    " + (text.empty() ? "(an empty description)" : text) + "\n";
 }
 
 /// The key, and below it what the entry says of itself.
@@ -55,9 +69,7 @@ std::string entryAsText(VCreatorBase const& entry) {
     add("source", entry.get(VCreatorBase::Source));
     add("date", entry.get(VCreatorBase::Date));
     add("to do", entry.get(VCreatorBase::Todo));
-    std::string const& description = entry.get(VCreatorBase::Description);
-    return entry.keyname("/") + "\n" + (description.empty() ? "" : "    " + description + "\n") +
-           table(rows, "    ") + "\n";
+    return entry.keyname("/") + "\n" + descriptionAsText(entry) + table(rows, "    ") + "\n";
 }
 
 std::string asJson(Session const& session) {

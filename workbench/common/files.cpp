@@ -59,12 +59,14 @@ bool isWriteProtected(fs::path const& file, fs::perms permissions) {
 }
 
 /// What stands at a place where a file is to be written. Fails under the other
-/// name if it is a folder or write-protected.
+/// name if it is a folder, write-protected, or a link that leads back to itself.
 fs::file_status writableStatus(fs::path const& target, fs::path const& named) {
     std::error_code ignored;
     fs::file_status const status = fs::status(target, ignored);
     if (fs::is_directory(status))
         fail("write", named, "it is a folder");
+    if (!fs::exists(status) && fs::is_symlink(target, ignored))
+        fail("write", named, "it is a link that leads to no file");
     if (fs::is_regular_file(status) && isWriteProtected(target, status.permissions()))
         fail("write", named, "it is write-protected");
     return status;

@@ -80,12 +80,24 @@ TEST(Catalogue, TheOrderIsThatOfRegistration) {
     }
 }
 
-TEST(Catalogue, AnEntryWithoutPropertiesHasEmptyOnes) {
+TEST(Catalogue, AnEntryWithoutTextsHasNullInTheirPlace) {
     std::string const plugin = fileBeside("talking_plugin.telm");
     Json const entries = Json::parse(telmbench({"--plugin", plugin, "catalogue", "--json"}).out);
     EXPECT_EQ(entries.dump(), R"([{"key":"Colormaps/Talker","order":7,"preferences":[],)"
-                              R"("description":"Says \"hello\".","tags":[],"source":"",)"
-                              R"("date":"","todo":""}])");
+                              R"("description":"Says \"hello\".","tags":[],"source":null,)"
+                              R"("date":null,"todo":null}])");
+}
+
+TEST(Catalogue, ADescriptionThatIsSetButEmptyIsNotLikeNone) {
+    EXPECT_EQ(entry("Colormaps/DopplerMap")["description"], "");
+    EXPECT_TRUE(entry("Colormaps/Glow")["description"].is_null());
+    Lines const lines = results({"catalogue"});
+    auto const lineBehind = [&](char const* key) {
+        auto const at = std::ranges::find(lines, std::string("Colormaps/") + key);
+        return lines.end() - at > 1 ? at[1] : "no entry";
+    };
+    EXPECT_EQ(lineBehind("DopplerMap"), "    (an empty description)");
+    EXPECT_EQ(lineBehind("Glow"), "    order        2000");
 }
 
 }  // namespace

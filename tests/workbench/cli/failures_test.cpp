@@ -290,6 +290,71 @@ TEST(Failures, ALineEndInAnArgumentStaysInTheLine) {
               Lines{"telmbench: there is no entry 'a\\x0ab'; 'telmbench catalogue' lists them"});
 }
 
+/// Calls that the C++ library refuses somewhere below; {long} is a name longer than
+/// file systems take.
+struct RefusedCall {
+    char const* rule;
+    Lines arguments;
+};
+
+RefusedCall const refusedCalls[] = {
+    {"a picture below a file", {"ramp", "Glow", "-o", "{folder}/text.telm/new.png"}},
+    {"a picture of a long name", {"ramp", "Glow", "-o", "{folder}/{long}.png"}},
+    {"a gallery in place of a file", {"gallery", "-o", "{folder}/text.telm"}},
+    {"a gallery of a long name", {"gallery", "-o", "{folder}/{long}/{long}"}},
+    {"a network below a file", {"run", "{folder}/text.telm/a.telm", "-o", "{folder}/new.png"}},
+    {"a network of a long name", {"run", "{long}", "--save", "{long}/{long}"}},
+    {"a network that is a folder", {"run", "{folder}", "-o", "{folder}/new.png"}},
+    {"data of a long name", {"color", "Glow", "{long}", "-o", "{folder}/new.png"}},
+    {"data below a file", {"color", "Glow", "{folder}/text.telm/a", "-o", "{long}/{long}"}},
+    {"a plug-in below a file", {"--plugin", "{folder}/text.telm/a.telm", "catalogue"}},
+    {"a plug-in of a long name", {"--plugin", "{long}/{long}", "catalogue"}},
+    {"fewer colours than none",
+     {"lookup", "MaxDistinguishableColors", "--set", "Number of Colors=-1", "0"}},
+    {"fewer steps than none", {"lookup", "MaxDistinguishableColors", "--set", "RGB Steps=-2", "0"}},
+    {"more colours than memory",
+     {"lookup", "MaxDistinguishableColors", "--set", "Number of Colors=2147483647", "0"}},
+    {"a level beyond all integers", {"--verbosity", "99999999999999999999", "catalogue"}},
+    {"a level of no digits", {"--verbosity", "", "catalogue"}},
+    {"a band beyond all integers",
+     {"color", "Glow", "x", "--band", "99999999999999999999", "-o", "{folder}/new.png"}},
+    {"a size beyond all integers",
+     {"ramp", "Glow", "--size", "1x99999999999999999999", "-o", "{folder}/new.png"}},
+    {"a value beyond all doubles", {"lookup", "Glow", "1e99999"}},
+    {"a setting of no name", {"lookup", "Glow", "--set", "=", "0"}},
+    {"an entry of no name", {"describe", ""}},
+    {"a command of no name", {""}},
+};
+
+TEST(Failures, NeverSpeakInTheWordsOfTheCppLibrary) {
+    char const* const raw[] = {"filesystem", "basic_string", "std::",  "stoi",           "stod",
+                               "bad_alloc",  "bad_cast",     "vector", "json.exception", "_M_",
+                               "iostream",   "what()",       "generic"};
+    for (RefusedCall const& c : refusedCalls) {
+        TemporaryFolder const folder;
+        workbench::writeFile(folder / "text.telm", "no library\n");
+        Lines arguments = c.arguments;
+        for (std::string& each : arguments)
+            each = replaced(replaced(each, "{folder}", textOf(folder.path())), "{long}",
+                            std::string(300, 'x'));
+        ProcessResult const result = telmbench(arguments);
+        EXPECT_TRUE(result.status == WorkFailed || result.status == CallWrong) << c.rule;
+        ASSERT_FALSE(result.errLines().empty()) << c.rule;
+        EXPECT_TRUE(result.errLines().back().starts_with("telmbench: ")) << c.rule;
+        for (char const* const each : raw)
+            EXPECT_EQ(result.err.find(each), std::string::npos) << c.rule << ": " << result.err;
+        EXPECT_EQ(folder.names(), Lines{"text.telm"}) << c.rule;
+    }
+}
+
+TEST(Failures, WithoutMemorySayWhatHelps) {
+    for (char const* const setting : {"Number of Colors=-1", "RGB Steps=-2"})
+        EXPECT_EQ(
+            telmbench({"lookup", "MaxDistinguishableColors", "--set", setting, "0"}).errLines(),
+            Lines{"telmbench: the memory does not suffice; ask for less"})
+            << setting;
+}
+
 /// The plug-in beside the program, changed.
 std::string pluginBytes() {
     return workbench::readFile(programBeside("telmbench").parent_path() / "prism_tinctures.telm");

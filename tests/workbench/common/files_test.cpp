@@ -168,6 +168,17 @@ TEST(Files, ALinkToWhatIsNotThereYetStaysALink) {
     EXPECT_EQ(readFile(folder / "target"), "new");
 }
 
+TEST(Files, ALinkThatLeadsBackToItselfIsNotReplaced) {
+    tests::TemporaryFolder const folder;
+    fs::create_symlink("second", folder / "first");
+    fs::create_symlink("first", folder / "second");
+    EXPECT_EQ(
+        errorOf([&] { writeFile(folder / "first", "new"); }),
+        "cannot write '" + textOf(folder / "first") + "': it is a link that leads to no file");
+    EXPECT_EQ(folder.names(), (std::vector<std::string>{"first", "second"}));
+    EXPECT_TRUE(fs::is_symlink(folder / "first"));
+}
+
 TEST(Files, LinksLeadToTheSameFileAsItsOwnName) {
     tests::TemporaryFolder const folder;
     writeFile(folder / "file", "x");

@@ -42,6 +42,17 @@ Image colorOf(std::string const& key, Rows const& rows, Lines const& more = {}) 
     return color(key, (folder / "grid.tif").string(), more);
 }
 
+TEST(Color, TheGridAndThePictureMayHaveAnyName) {
+    TemporaryFolder const folder;
+    std::string const name = "h\xc3\xb6he \xe6\xb7\xb1";
+    writeGeoTiff(folder / (name + ".tif"), {{{{0, 1}}}});
+    EXPECT_EQ(results({"color", "Glow", textOf(folder / (name + ".tif")), "-o",
+                       textOf(folder / (name + ".png"))}),
+              Lines{});
+    EXPECT_EQ(folder.names(), (Lines{name + ".png", name + ".tif"}));
+    EXPECT_TRUE(readPng(workbench::readFile(folder / (name + ".png"))));
+}
+
 TEST(Color, SpansTheMapOverTheRangeOfTheData) {
     Image const image = colorOf("Intensitymap", {{-2, -1, 0}, {1, 1.5, 2}});
     EXPECT_EQ(image.width(), 3);

@@ -7,6 +7,7 @@
 #include <map>
 #include <set>
 
+#include "tests/support/LibraryFile.hpp"
 #include "workbench/common/files.hpp"
 #include "workbench/network/Script.hpp"
 #include "workbench/session/PluginFile.hpp"
@@ -378,6 +379,17 @@ TEST(PluginFile, CarriesBothExamplesOneBehindTheOther) {
     std::size_t const at = plugin.find(texts);
     ASSERT_NE(at, std::string::npos);
     EXPECT_EQ(plugin.find(texts, at + 1), std::string::npos) << "each text stands once";
+}
+
+TEST(PluginFile, CarriesThemInItsWritableData) {
+    tests::LibraryFile const plugin(pluginBesideProgram());
+    std::vector<std::string> holders;
+    for (auto const& [name, content] : plugin.sections)
+        if (content.find(textOfExample(First)) != std::string::npos)
+            holders.push_back(name);
+    EXPECT_THAT(holders, testing::ElementsAre(".data"));
+    EXPECT_THAT(plugin.writable, testing::Contains(".data"));
+    EXPECT_THAT(plugin.writable, testing::Not(testing::Contains(".text")));
 }
 
 }  // namespace
