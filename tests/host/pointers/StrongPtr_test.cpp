@@ -168,7 +168,7 @@ TEST(StrongPointer, OnAllThreadsCountsExactly) {
         threads.emplace_back([&] {
             for (int round = 0; round < 100; ++round) {
                 together.arriveAndWait();
-                for (int k = 0; k < 500; ++k) {
+                for (int k = 0; k < 4000; ++k) {
                     StrongRoot const copy(object);
                     WeakRoot const weak(copy);
                 }
