@@ -2,6 +2,7 @@
 /// remedy, the right status, and nothing left behind.
 #include <algorithm>
 
+#include "tests/support/sanitizers.hpp"
 #include "tests/workbench/cli/telmbench.hpp"
 #include "workbench/common/files.hpp"
 
@@ -354,6 +355,23 @@ TEST(Failures, WithoutMemorySayWhatHelps) {
             Lines{"telmbench: the memory does not suffice; ask for less"})
             << setting;
 }
+
+#if !defined(_WIN32)
+
+/// A picture of a gigabyte, in a third of it.
+TEST(Failures, OfAllocationsSayWhatHelps) {
+    if (TESTS_ADDRESS_SANITIZER || TESTS_THREAD_SANITIZER)
+        GTEST_SKIP() << "a sanitizer needs more memory than any limit leaves";
+    TemporaryFolder const folder;
+    ProcessResult const result = runProcess(
+        "/bin/sh", {"-c", "ulimit -v 300000; exec \"$@\"", "sh", textOf(programBeside("telmbench")),
+                    "ramp", "Glow", "--size", "16384x16384", "-o", textOf(folder / "new.png")});
+    EXPECT_EQ(result.status, WorkFailed);
+    EXPECT_EQ(result.errLines(), Lines{"telmbench: the memory does not suffice; ask for less"});
+    EXPECT_EQ(folder.names(), Lines{});
+}
+
+#endif
 
 /// The plug-in beside the program, changed.
 std::string pluginBytes() {
