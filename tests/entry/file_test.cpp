@@ -89,7 +89,8 @@ std::vector<Need> const Needs {
          "printf|puts|putchar|fflush|fwrite|stdout"},
         {"exceptions and casts",
          "_Unwind_Resume|__gxx_personality_.*|__dynamic_cast|"
-         "__cxa_(allocate_exception|free_exception|throw|rethrow|begin_catch|end_catch|bad_cast)|_"
+         "_ZTISt9bad_alloc|__cxa_(allocate_exception|free_exception|throw|rethrow|begin_catch|end_"
+         "catch|bad_cast)|_"
          "ZSt9terminatev|"
          "_ZSt[0-9]+__throw_.*|_ZN?S?t?(TI)?[0-9]*.*length_error.*"},
         {"types", "_ZT[IV](N10__cxxabiv1.*|[a-z]|PK[a-z])|__cxa_pure_virtual"},
