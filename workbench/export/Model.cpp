@@ -25,6 +25,25 @@ double Model::part(double value) const noexcept {
     return value == range.max ? 1.0 : (value - range.min) / (range.max - range.min);
 }
 
+std::size_t dropSlivers(Model& model, double minPart) {
+    std::vector<Piece> kept;
+    bool follows = true;  // the piece before has been kept
+    for (Piece const& piece : model.pieces) {
+        bool const isKept = model.part(piece.to) - model.part(piece.from) >= minPart;
+        if (isKept) {
+            kept.push_back(piece);
+            kept.back().joined = piece.joined && follows;
+        } else if (!kept.empty()) {
+            kept.back().to = piece.to;
+        }
+        follows = isKept;
+    }
+    kept.front().from = model.range.min;
+    std::size_t const gone = model.pieces.size() - kept.size();
+    model.pieces = std::move(kept);
+    return gone;
+}
+
 std::vector<Stop> stopsOf(Model const& model) {
     std::vector<Stop> stops;
     for (std::size_t i = 0; i < model.pieces.size(); ++i) {
@@ -36,6 +55,15 @@ std::vector<Stop> stopsOf(Model const& model) {
         if (last > stops.back().value)  // a piece may be a single double
             stops.push_back({last, piece.end});
     }
+    return stops;
+}
+
+std::vector<Stop> formStops(Model const& model) {
+    if (!model.isClasses())
+        return stopsOf(model);
+    std::vector<Stop> stops;
+    for (Piece const& piece : model.pieces)
+        stops.push_back({piece.from, piece.start});
     return stops;
 }
 

@@ -67,6 +67,10 @@ Orlo::rgba_float_t between(Orlo::rgba_float_t const& a, Orlo::rgba_float_t const
 /// The colour that the pieces have for any value.
 Orlo::rgba_float_t colorAt(Model const& model, double value);
 
+/// Takes pieces out that are narrower than a part of the range; those before them grow.
+/// Gives how many are gone.
+std::size_t dropSlivers(Model& model, double minPart);
+
 /// A value with its colour; lines run between neighbours.
 struct Stop {
     double value;
@@ -76,5 +80,9 @@ struct Stop {
 /// The pieces as stops in ascending order. An edge is two stops whose values are
 /// neighbours among the doubles.
 std::vector<Stop> stopsOf(Model const& model);
+
+/// The same for forms in which the colour of a class holds up to the next stop: one
+/// for each class.
+std::vector<Stop> formStops(Model const& model);
 
 }  // namespace workbench

@@ -100,12 +100,13 @@ Exported exportMap(Session const& session, std::string const& key, Form const& f
     sampling.error = options.error.value_or(sampling.error);
     try {
         Model model = modelOf(subject.map(), sampling);
+        std::size_t const slivers = dropSlivers(model, form.minPart);
         model.origin =
             originOf(session, subject, options.maker, commandOf(subject.key(), form, options));
         return {.key = subject.key(),
                 .form = &form,
                 .text = form.write(model),
-                .losses = lossesOf(form, model, options.alpha, options.range.has_value())};
+                .losses = lossesOf(form, model, options.alpha, options.range.has_value(), slivers)};
     } catch (WorkError const& error) {
         throw WorkError(subject.key() + " as " + form.name + ": " + error.what());
     }

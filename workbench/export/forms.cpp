@@ -8,8 +8,9 @@
 namespace workbench {
 
 std::vector<Form> const& forms() {
-    static std::vector<Form> const all{MplPy,   ParaviewJson, VtkLut, GmtCpt,
-                                       GdalTxt, Gnuplot,      Csv,    JsonForm};
+    static std::vector<Form> const all{MplPy,   ParaviewJson, VtkLut, GmtCpt, GdalTxt,   QgisTxt,
+                                       QgisXml, GrassRules,   Gpl,    Ggr,    ImagejLut, BlenderPy,
+                                       Gnuplot, Svg,          Css,    Csv,    JsonForm};
     return all;
 }
 

@@ -28,9 +28,8 @@ std::string colorText(Orlo::rgba_float_t const& color) {
 std::string write(Model const& model) {
     std::string text = comment(model, 0, "# ") + "# COLOR_MODEL = RGB\n";
     for (Piece const& piece : model.pieces)
-        if (piece.from < piece.to)
-            text += shortestText(piece.from) + "\t" + colorText(piece.start) + "\t" +
-                    shortestText(piece.to) + "\t" + colorText(piece.end) + "\n";
+        text += shortestText(piece.from) + "\t" + colorText(piece.start) + "\t" +
+                shortestText(piece.to) + "\t" + colorText(piece.end) + "\n";
     return text + "B\t" + colorText(model.below) + "\nF\t" + colorText(model.above) + "\nN\t" +
            colorText(model.missing) + "\n";
 }
@@ -45,7 +44,7 @@ constinit Form const GmtCpt{.name = "gmt-cpt",
                             .missing = true,
                             .alpha = true,
                             .exactEdges = true,
-                            .points = false,
+                            .minPart = 1e-300,
                             .write = write};
 
 }  // namespace workbench

@@ -37,34 +37,46 @@ std::string lossOfAlpha(Form const& form, Model const& model, bool wantsAlpha) {
            (form.alpha ? "; --alpha keeps it" : "");
 }
 
+/// How many evenly spaced colours the form has this map in; 0 if it has it otherwise.
+std::size_t tableSizeOf(Form const& form, Model const& model) {
+    auto const size = static_cast<std::size_t>(form.tableSize);
+    if (!isTable(form, model))
+        return 0;
+    return form.anySize ? evenCount(model, size) : size;
+}
+
 }  // namespace
 
+bool isTable(Form const& form, Model const& model) {
+    if (form.tableSize == 0 || (form.listsClasses && model.isClasses()))
+        return false;
+    return form.maxStops == 0 || formStops(model).size() > static_cast<std::size_t>(form.maxStops);
+}
+
 std::vector<std::string> lossesOf(Form const& form, Model const& model, bool wantsAlpha,
-                                  bool hasRange) {
+                                  bool hasRange, std::size_t slivers) {
     std::vector<std::string> losses;
     auto const add = [&](bool isLost, std::string const& what) {
         if (isLost && !what.empty())
             losses.push_back(what);
     };
-    std::size_t const table =
-        form.tableSize > 0 ? evenCount(model, static_cast<std::size_t>(form.tableSize)) : 0;
+    std::size_t const table = tableSizeOf(form, model);
     rgba_float_t first = model.pieces.front().start, last = model.pieces.back().end;
     if (table > 0) {
         first = evenColors(model, table).front();
         last = evenColors(model, table).back();
     }
-    std::size_t const stops = model.isClasses() ? model.pieces.size() : stopsOf(model).size();
+    std::size_t const stops = formStops(model).size();
     add(true, lossOfAlpha(form, model, wantsAlpha));
     add(true, lossBeside("below", form.below, model.below, first, model.changesBelow));
     add(true, lossBeside("above", form.above, model.above, last, model.changesAbove));
     add(!form.missing, "no number has no colour, and has " + hexOf(model.missing) + " in the map");
     add(!form.beyond && model.goesBeyond,
         "the map's components go beyond 0 to 1, and are cut there");
-    add(!form.exactEdges && model.hasEdges(),
+    add(!form.exactEdges && model.hasEdges() && !(form.listsClasses && model.isClasses()),
         "hard edges stand near their places, and not to the last double");
-    add(!form.points && model.pieces.back().from == model.range.max,
-        "the last value of the range has " + hexOf(model.pieces.back().start) +
-            " in the map, and the colour before it in the file");
+    add(slivers > 0, "pieces narrower than " + shortestText(form.minPart) +
+                         " of the range are left out, " + std::to_string(slivers) + " of them");
     add(form.maxStops > 0 && stops > static_cast<std::size_t>(form.maxStops),
         "the map takes " + std::to_string(stops) + " stops, and the form holds " +
             std::to_string(form.maxStops));

@@ -45,6 +45,7 @@ constinit Form const VtkLut{.name = "vtk-lut",
                             .alpha = true,
                             .values = false,
                             .tableSize = MaxColors,
+                            .anySize = true,
                             .write = write};
 
 }  // namespace workbench
