@@ -238,6 +238,17 @@ TEST(FarthestPoints, PicksAllPointsInTheOrderOfThePlainForm) {
     }
 }
 
+/// Nearer than rough points can tell from a taken one, and yet not taken.
+TEST(FarthestPoints, PicksAPointThatIsNearlyTaken) {
+    for (double const near : {1e-12, 1e-9, 1e-7, 1e-5})
+        for (RgbTriple const& background :
+             {RgbTriple{near, 0, 0}, RgbTriple{0, 1 - near, 0}, RgbTriple{1, 1, 1 + near}}) {
+            SCOPED_TRACE(near);
+            expectPlainPicks({2, 10, illuminant("D50"), {background}});
+            expectPlainPicks({2, 10, illuminant("D65"), {background, background}});
+        }
+}
+
 TEST(FarthestPoints, PicksNothingOnceEveryPointIsTaken) {
     FarthestPoints points(illuminant("D50"), RgbGrid(2), 8);
     for (int taken = 0; taken < 8; ++taken)
