@@ -5,6 +5,7 @@
 #include <bitset>
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "host/pointers/import.hpp"
 
@@ -31,7 +32,7 @@ public:
     bool isSet(Key key) const { return set_.test(key); }
 
 protected:
-    void set(std::size_t key, std::string const& text) {
+    [[gnu::noinline]] void set(std::size_t key, std::string_view text) {
         elements_.at(key) = text;
         set_.set(key);
     }
@@ -61,7 +62,7 @@ public:
 template <unsigned K>
 class VCreatorProperty : public VCreatorPropertyBase {
 public:
-    explicit VCreatorProperty(std::string const& text) { set(K, text); }
+    explicit VCreatorProperty(std::string_view text) { set(K, text); }
 };
 
 /// A list with no key of its own.

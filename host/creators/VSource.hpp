@@ -14,12 +14,48 @@
 
 namespace Orlo {
 
+// What a creator does whatever its class is. A plug-in has each of these once, and
+// not in the code of every creator.
+
 /// The union of the given words and the creator's; the one set that there is;
 /// or none.
-inline PreferencesPtr mergedPreferences(PreferencesPtr const& given, PreferencesPtr const& own) {
+[[gnu::noinline]] inline PreferencesPtr mergedPreferences(PreferencesPtr const& given,
+                                                          PreferencesPtr const& own) {
     if (given && own)
         return new VCreationPreferences(*given, *own);
     return given ? given : own;
+}
+
+/// A new object as a whole one, known to its creator, the host and all listeners.
+[[gnu::noinline]] inline ObjectPtr introduced(
+    WeakPtr<VManagedObjectBase, VManagedObjectBase> const& fresh, std::string const& name,
+    Nucleo::Intercube const& context, VCreatorBase const& maker) {
+    ObjectPtr const object(fresh);
+    Vprintf(100, "VCreator::create(%s) got derived object\n", name.c_str());
+    WeakCreatorPtr const creator(const_cast<VCreatorBase*>(&maker));
+    object->setCreator(creator);
+    object->enableRequestProcessing();
+    VActionNotifier::VObjectCreation(object, context, creator);
+    return object;
+}
+
+/// Offers the creator as a source of the type; says so where that fails.
+[[gnu::noinline]] inline void enterAsInput(VInputCreatorBase& creator,
+                                           std::type_info const& creatorType,
+                                           std::type_info const& port) {
+    if (registerVInput(port, WeakInputCreatorPtr(&creator)))
+        return;
+    std::string const creatorName = Nucleo::Typename(creatorType);
+    std::string const portName = Nucleo::Typename(port);
+    std::printf("WARNING: Could not register %s as input creator for type %s!\n",
+                creatorName.c_str(), portName.c_str());
+    VActionNotifier::Warning("Could not register " + creatorName + " as input creator for type " +
+                             portName + "!");
+}
+
+[[gnu::noinline]] inline void removeFromInputs(VInputCreatorBase& creator,
+                                               std::type_info const& port) {
+    unregisterVInput(port, WeakInputCreatorPtr(&creator));
 }
 
 template <class X, class = void>
@@ -42,15 +78,10 @@ public:
     ObjectPtr create(std::string const& name, Nucleo::Intercube const& context,
                      PreferencesPtr const& preferences) const override {
         Vprintf(100, "VCreator::create(%s)\n", name.c_str());
-        ObjectPtr const object(WeakPtr<X, VManagedObjectBase>(
+        WeakPtr<VManagedObjectBase, VManagedObjectBase> const fresh(
             new X(name.empty() ? this->name() : name, 0,
-                  mergedPreferences(preferences, this->preferences()))));
-        Vprintf(100, "VCreator::create(%s) got derived object\n", name.c_str());
-        WeakCreatorPtr const creator(const_cast<VCreator*>(this));
-        object->setCreator(creator);
-        object->enableRequestProcessing();
-        VActionNotifier::VObjectCreation(object, context, creator);
-        return object;
+                  mergedPreferences(preferences, this->preferences())));
+        return introduced(fresh, name, context, *this);
     }
 
     std::string createChildname(std::string const& parentName) const override {
@@ -70,16 +101,9 @@ class VInputCreator : public Creator {
 public:
     template <class... Args>
     explicit VInputCreator(Args&&... args) : Creator(std::forward<Args>(args)...) {
-        if (registerVInput(typeid(Port), WeakInputCreatorPtr(this)))
-            return;
-        std::string const creatorType = Nucleo::Typename(typeid(VInputCreator));
-        std::string const portType = Nucleo::Typename(typeid(Port));
-        std::printf("WARNING: Could not register %s as input creator for type %s!\n",
-                    creatorType.c_str(), portType.c_str());
-        VActionNotifier::Warning("Could not register " + creatorType +
-                                 " as input creator for type " + portType + "!");
+        enterAsInput(*this, typeid(VInputCreator), typeid(Port));
     }
-    ~VInputCreator() override { unregisterVInput(typeid(Port), WeakInputCreatorPtr(this)); }
+    ~VInputCreator() override { removeFromInputs(*this, typeid(Port)); }
 };
 
 /// The complete creator: a static object of the source that holds the class

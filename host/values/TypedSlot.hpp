@@ -35,6 +35,17 @@ public:
     static std::atomic<unsigned> InternalTypeCreatorAccessory;
 };
 
+/// Puts a parameter into a slot of the object that it belongs to: what is done
+/// whatever its type is, once in a plug-in.
+[[gnu::noinline]] inline SlotPtr slotOf(VSlotContainer* container, std::string const& name,
+                                        int expertLevel, ParameterPtr const& parameter) {
+    parameter->setCreator(container);
+    SlotPtr slot = VSlotGlobals::addParameter(container, name, expertLevel, parameter, true);
+    if (slot)
+        slot->parameter()->flags &= ~static_cast<unsigned>(VParameter::Computed);
+    return slot;
+}
+
 /// A parameter of type `T` of an object.
 ///
 /// Owner: the object, as a member. Threads: construction is [host]; reading is
@@ -56,10 +67,7 @@ public:
             VSlotGlobals::assertionFail(nullptr, name, typeid(T));
         StrongPtr<VValue<T>, VValueBase> const value = new VValue<T>(initialValue);
         own_ = new VValueParameter<T>(value, name);
-        own_->setCreator(container);
-        hostSlot_ = VSlotGlobals::addParameter(container, name, expertLevel, own_, true);
-        if (hostSlot_)
-            hostSlot_->parameter()->flags &= ~static_cast<unsigned>(VParameter::Computed);
+        hostSlot_ = slotOf(container, name, expertLevel, own_);
     }
     TypedSlot(TypedSlot const&) = delete;
     TypedSlot& operator=(TypedSlot const&) = delete;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <filesystem>
 #include <regex>
 
 #include "tests/support/LibraryFile.hpp"
@@ -136,6 +137,18 @@ TEST_F(PluginLibrary, HoldsTheTokenOnce) {
         ++count;
     EXPECT_EQ(count, 1u);
 }
+
+#if defined(NDEBUG) && !defined(__clang__) && !defined(_WIN32)
+/// As it is delivered.
+TEST_F(PluginLibrary, IsSmallWithoutSymbolsForADebuggerAndWithItsRelocationsPacked) {
+    std::vector<std::string> names;
+    for (auto const& section : library_.sections)
+        names.push_back(section.first);
+    EXPECT_THAT(names, testing::Contains(".relr.dyn"));
+    EXPECT_THAT(names, testing::Not(testing::Contains(".symtab")));
+    EXPECT_LT(std::filesystem::file_size(workbench::pluginBesideProgram()), 640'000U);
+}
+#endif
 
 TEST(LibraryReader, RefusesAFileThatIsNoLibrary) {
     EXPECT_THROW(LibraryFile("no such file"), std::runtime_error);

@@ -14,9 +14,10 @@ constexpr double clamped(double x) noexcept {
 
 /// The sum of two weighted colours, alpha included. Both products are floats
 /// before they are added; nothing is clamped.
-inline Tessar::rgba_float_t blend(Tessar::rgba_float_t const& first, double firstWeight,
-                                  Tessar::rgba_float_t const& second,
-                                  double secondWeight) noexcept {
+[[gnu::always_inline]] inline Tessar::rgba_float_t blend(Tessar::rgba_float_t const& first,
+                                                         double firstWeight,
+                                                         Tessar::rgba_float_t const& second,
+                                                         double secondWeight) noexcept {
     return colorOf(weighted(lanesOf(first), firstWeight) + weighted(lanesOf(second), secondWeight));
 }
 
@@ -31,8 +32,9 @@ struct BendWeights {
 /// The colour at one position of such a gradient. The terms are floats before they
 /// are added. The complement counts as opaque, and alpha adds the term of the start
 /// colour first, not that of the end colour.
-inline Tessar::rgba_float_t bend(Tessar::rgba_float_t const& start, Tessar::rgba_float_t const& end,
-                                 BendWeights const& weights) noexcept {
+[[gnu::always_inline]] inline Tessar::rgba_float_t bend(Tessar::rgba_float_t const& start,
+                                                        Tessar::rgba_float_t const& end,
+                                                        BendWeights const& weights) noexcept {
     Quad const opaque{1, 1, 1, 1}, transparent{};
     Quad const first = weighted(lanesOf(start), weights.start);
     Quad const last = weighted(lanesOf(end), weights.end);

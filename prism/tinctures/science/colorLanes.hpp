@@ -14,11 +14,11 @@
 namespace prism {
 
 /// Red, green, blue and alpha as four lanes.
-inline Quad lanesOf(Tessar::rgba_float_t const& color) noexcept {
+[[gnu::always_inline]] inline Quad lanesOf(Tessar::rgba_float_t const& color) noexcept {
     return load<Quad>(&color[0]);
 }
 
-inline Tessar::rgba_float_t colorOf(Quad lanes) noexcept {
+[[gnu::always_inline]] inline Tessar::rgba_float_t colorOf(Quad lanes) noexcept {
     Tessar::rgba_float_t color;
     store(&color[0], lanes);
     return color;
@@ -30,7 +30,7 @@ struct WideColor {
 };
 
 /// Floats as doubles. The compiler by itself takes a vector apart for this.
-inline WideColor widened(Quad color) noexcept {
+[[gnu::always_inline]] inline WideColor widened(Quad color) noexcept {
 #if defined(__SSE2__)
     return {_mm_cvtps_pd(color), _mm_cvtps_pd(_mm_movehl_ps(color, color))};
 #else
@@ -39,7 +39,7 @@ inline WideColor widened(Quad color) noexcept {
 }
 
 /// Each rounded to float.
-inline Quad narrowed(WideColor const& color) noexcept {
+[[gnu::always_inline]] inline Quad narrowed(WideColor const& color) noexcept {
     auto const& [redGreen, blueAlpha] = color;
 #if defined(__SSE2__)
     return _mm_movelh_ps(_mm_cvtpd_ps(redGreen), _mm_cvtpd_ps(blueAlpha));
@@ -51,13 +51,13 @@ inline Quad narrowed(WideColor const& color) noexcept {
 }
 
 /// A colour with a weight: products of doubles, rounded to float.
-inline Quad weighted(Quad color, double weight) noexcept {
+[[gnu::always_inline]] inline Quad weighted(Quad color, double weight) noexcept {
     WideColor const wide = widened(color);
     return narrowed({wide.redGreen * weight, wide.blueAlpha * weight});
 }
 
 /// The colour of the one with the alpha of the other.
-inline Quad withAlphaOf(Quad color, Quad alpha) noexcept {
+[[gnu::always_inline]] inline Quad withAlphaOf(Quad color, Quad alpha) noexcept {
     using Bits [[gnu::vector_size(16)]] = std::int32_t;
     constexpr Bits kept{-1, -1, -1, 0};
     return std::bit_cast<Quad>((std::bit_cast<Bits>(color) & kept) |
