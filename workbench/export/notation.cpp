@@ -73,7 +73,7 @@ std::vector<std::string> aboutLines(Model const& model, int levels) {
     if (!origin.label.empty())
         lines.push_back("Label: " + origin.label);
     for (auto const& [name, text] : origin.parameters)
-        lines.push_back("Parameter " + name + " = " + text);
+        lines.push_back(std::string("Parameter ").append(name).append(" = ").append(text));
     lines.push_back("Values from " + shortestText(model.range.min) + " to " +
                     shortestText(model.range.max) + ": " + accuracyOf(model, levels));
     lines.push_back("Made by: " + origin.command);
