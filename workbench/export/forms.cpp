@@ -21,7 +21,7 @@ Form const& findForm(std::string const& name) {
         return *found;
     std::vector<std::string> names;
     for (Form const& form : forms())
-        names.push_back(form.name);
+        names.emplace_back(form.name);
     throw CallError("there is no form " + inQuotes(name) +
                     suggestion(name, names, "; 'telmbench export --list' lists the forms"));
 }

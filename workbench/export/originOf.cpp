@@ -17,7 +17,7 @@ std::string quoted(std::string const& argument) {
 }
 
 std::string presentText(Orlo::VParameter const& parameter) {
-    Orlo::ValuePtr const value = parameter.ownValue();
+    Orlo::ValuePtr const& value = parameter.ownValue();
     return value ? value->text() : std::string();
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
@@ -42,7 +43,9 @@ std::vector<double> ExportedMap::edges() const {
     return found;
 }
 
-ExportedMap exported(std::string const& key, std::vector<std::string> const& arguments) {
+namespace {
+
+ExportedMap readExport(std::string const& key, std::vector<std::string> const& arguments) {
     std::vector<std::string> call{"export", key, "--format", "json"};
     call.insert(call.end(), arguments.begin(), arguments.end());
     ProcessResult const result = telmbench(call);
@@ -59,6 +62,17 @@ ExportedMap exported(std::string const& key, std::vector<std::string> const& arg
     for (Json const& each : json["pieces"])
         map.pieces.push_back({each["from"], each["to"], each["start"], each["end"]});
     return map;
+}
+
+}  // namespace
+
+ExportedMap const& exported(std::string const& key, std::vector<std::string> const& arguments) {
+    using Call = std::pair<std::string, std::vector<std::string>>;
+    static std::map<Call, ExportedMap> known;
+    auto const found = known.find({key, arguments});
+    if (found != known.end())
+        return found->second;
+    return known.emplace(Call{key, arguments}, readExport(key, arguments)).first->second;
 }
 
 std::vector<Color> lookedUp(std::string const& key, std::vector<double> const& values,

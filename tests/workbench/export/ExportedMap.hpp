@@ -32,8 +32,9 @@ struct ExportedMap {
     std::vector<double> edges() const;
 };
 
-/// Exports by the program, which must succeed; `arguments` stand behind the key.
-ExportedMap exported(std::string const& key, std::vector<std::string> const& arguments = {});
+/// Exports by the program, which must succeed; `arguments` stand behind the key. Each
+/// export is asked for once, as starting programs takes most of the time.
+ExportedMap const& exported(std::string const& key, std::vector<std::string> const& arguments = {});
 
 /// The colours that `telmbench lookup` has for values, cut to 0 to 1; NaN is 0.
 std::vector<Color> lookedUp(std::string const& key, std::vector<double> const& values,

@@ -16,8 +16,10 @@ using testing::StartsWith;
 using workbench::readFile;
 using workbench::writeFile;
 
-nlohmann::json listed() {
-    return nlohmann::json::parse(telmbench({"export", "--list", "--json"}).out);
+nlohmann::json const& listed() {
+    static nlohmann::json const forms =
+        nlohmann::json::parse(telmbench({"export", "--list", "--json"}).out);
+    return forms;
 }
 
 /// The lines on standard error but what the plug-in says.

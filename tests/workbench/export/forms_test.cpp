@@ -12,8 +12,10 @@ using namespace tests;
 using testing::HasSubstr;
 using workbench::readFile;
 
-nlohmann::json listed() {
-    return nlohmann::json::parse(telmbench({"export", "--list", "--json"}).out);
+nlohmann::json const& listed() {
+    static nlohmann::json const forms =
+        nlohmann::json::parse(telmbench({"export", "--list", "--json"}).out);
+    return forms;
 }
 
 std::filesystem::path const Examples =
