@@ -51,8 +51,8 @@ TEST(Progress, IsShownOnATerminalWhileAPictureIsEncodedAndTakenAway) {
         runProcess(programBeside("telmbench"), {"ramp", "Glow", "-o", textOf(folder / "new.png")},
                    {}, {.err = terminal.name()});
     EXPECT_EQ(result.status, 0);
-    std::string const label = "encoding the picture";
-    EXPECT_EQ(terminal.text(), "\r" + label + " ...\r" + std::string(label.size() + 6, ' ') + "\r");
+    std::string const line = "encoding the picture ...";
+    EXPECT_EQ(terminal.text(), "\r" + line + "\r" + std::string(line.size(), ' ') + "\r");
 }
 
 TEST(Progress, IsNotShownElsewhere) {
