@@ -86,10 +86,12 @@ int runToEnd(fs::path const& program, std::vector<std::string> const& arguments,
     PROCESS_INFORMATION process{};
     bool const started = CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, 0,
                                         nullptr, nullptr, &start, &process) != 0;
+    DWORD const failure = started ? 0 : GetLastError();
     for (HANDLE const handle : {start.hStdInput, start.hStdOutput, start.hStdError})
         CloseHandle(handle);
     if (!started)
-        throw std::runtime_error("cannot start " + textOf(program));
+        throw std::runtime_error("cannot start " + textOf(program) + ", error " +
+                                 std::to_string(failure));
     WaitForSingleObject(process.hProcess, INFINITE);
     DWORD status = 0;
     GetExitCodeProcess(process.hProcess, &status);

@@ -23,7 +23,7 @@ MapObject::MapObject(Session const& session, std::string const& key,
     : pool_(new Orlo::ValuePool("telmbench")) {
     Orlo::WeakCreatorPtr const entry = session.find(key);
     key_ = entry->keyname("/");
-    object_ = entry->create("", Nucleo::Intercube(), nullptr);
+    object_ = create(entry);
     for (std::string const& setting : settings)
         applySetting(*object_, setting);
     map_ = update(*object_, pool_);

@@ -1,6 +1,8 @@
 #include "workbench/session/objects.hpp"
 
 #include <map>
+#include <new>
+#include <stdexcept>
 #include <vector>
 
 #include "runtime/lattice/Catalogue.hpp"
@@ -29,19 +31,46 @@ std::string keySuggestion(std::string const& unknown) {
     return text.empty() ? "; a plug-in that provides it must be loaded" : text;
 }
 
+/// Calls into a plug-in. What this throws is of its own code on Windows, also where
+/// the type is of the C++ library, and may be caught only when that is unloaded: it
+/// is said again by the host. The host's own errors pass.
+template <class Call>
+auto inOwnErrors(Call call) {
+    try {
+        return call();
+    } catch (CallError const&) {
+        throw;
+    } catch (WorkError const&) {
+        throw;
+    } catch (std::bad_alloc const&) {
+        throw std::bad_alloc();
+    } catch (std::length_error const& error) {
+        throw std::length_error(error.what());
+    } catch (std::exception const& error) {
+        throw std::runtime_error(error.what());
+    }
+}
+
 }  // namespace
+
+Orlo::ObjectPtr create(Orlo::WeakCreatorPtr const& entry, std::string const& name,
+                       Orlo::PreferencesPtr const& preferences, Nucleo::Intercube const& context) {
+    return inOwnErrors([&] { return entry->create(name, context, preferences); });
+}
 
 Orlo::ObjectPtr create(std::string const& key, std::string const& name,
                        Orlo::PreferencesPtr const& preferences, Nucleo::Intercube const& context) {
     Orlo::WeakCreatorPtr const creator = Orlo::findCreator(key);
     if (!creator)
         throw CallError("the catalogue has no entry " + inQuotes(key) + keySuggestion(key));
-    return creator->create(name, context, preferences);
+    return create(creator, name, preferences, context);
 }
 
 void request(Orlo::VObject& object, Orlo::PoolPtr const& pool) {
-    Orlo::VRequest request(pool);
-    object.request(request, 0, nullptr, nullptr);
+    inOwnErrors([&] {
+        Orlo::VRequest request(pool);
+        object.request(request, 0, nullptr, nullptr);
+    });
 }
 
 Orlo::ColormapPtr mapOf(Orlo::VObject const& object, Orlo::PoolPtr const& pool) {

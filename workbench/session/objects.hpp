@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "host/creators/VCreatorBase.hpp"
 #include "host/object/VObject.hpp"
 #include "runtime/vellum/ColormapValue.hpp"
 
@@ -11,6 +12,12 @@ namespace workbench {
 /// Makes an object of the catalogue's entry of that full key. Throws `CallError`
 /// with the nearest keys if there is none. [host]
 Orlo::ObjectPtr create(std::string const& key, std::string const& name = {},
+                       Orlo::PreferencesPtr const& preferences = {},
+                       Nucleo::Intercube const& context = {});
+
+/// Makes an object of an entry. What a plug-in throws comes as an error of the host's
+/// own, here and below, so that it outlives the plug-in's library. [host]
+Orlo::ObjectPtr create(Orlo::WeakCreatorPtr const& entry, std::string const& name = {},
                        Orlo::PreferencesPtr const& preferences = {},
                        Nucleo::Intercube const& context = {});
 
