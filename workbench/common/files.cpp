@@ -156,6 +156,14 @@ void writeFile(fs::path const& file, std::string_view bytes) {
     fail("write", file, reason);
 }
 
+void makeFolder(fs::path const& folder) {
+    std::error_code error, ignored;
+    fs::create_directories(folder, error);
+    if (!fs::is_directory(folder, ignored))
+        fail("make the folder", folder,
+             error ? error.default_error_condition().message() : "there is a file of that name");
+}
+
 Draft::Draft(fs::path const& file)
     : named_(file), target_(followed(file)), folder_(nameBeside(target_)) {
     fs::file_status const status = writableStatus(target_, file);

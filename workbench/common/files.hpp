@@ -27,6 +27,10 @@ bool isSameFile(std::filesystem::path const& a, std::filesystem::path const& b);
 /// is unharmed then.
 void writeFile(std::filesystem::path const& file, std::string_view bytes);
 
+/// Makes a folder, and those that it is in, unless it is there. Throws `WorkError`
+/// that names it and the reason.
+void makeFolder(std::filesystem::path const& folder);
+
 /// A file that somebody else writes, with others beside it: a folder next to its
 /// place, in which all of them are made under their own names. Until they are
 /// kept nothing has happened to the file, and what is not kept goes with the

@@ -1,12 +1,9 @@
 #include "workbench/export/exportAll.hpp"
 
 #include <map>
-#include <system_error>
 
 #include "workbench/common/errors.hpp"
 #include "workbench/common/files.hpp"
-#include "workbench/common/inQuotes.hpp"
-#include "workbench/common/paths.hpp"
 #include "workbench/export/notation.hpp"
 #include "workbench/export/originOf.hpp"
 #include "workbench/session/entries.hpp"
@@ -31,15 +28,6 @@ std::vector<std::string> commandOf(std::string const& key, Form const& form,
     if (options.alpha)
         words.emplace_back("--alpha");
     return words;
-}
-
-void makeFolder(fs::path const& folder) {
-    std::error_code error, ignored;
-    fs::create_directories(folder, error);
-    if (!fs::is_directory(folder, ignored))
-        throw WorkError("cannot make the folder " + inQuotes(textOf(folder), 1000) + ": " +
-                        (error ? error.default_error_condition().message()
-                               : std::string("there is a file of that name")));
 }
 
 /// A name of a file: letters, digits and `-`.

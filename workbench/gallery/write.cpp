@@ -1,11 +1,6 @@
 #include "workbench/gallery/write.hpp"
 
-#include <system_error>
-
-#include "workbench/common/errors.hpp"
 #include "workbench/common/files.hpp"
-#include "workbench/common/inQuotes.hpp"
-#include "workbench/common/paths.hpp"
 #include "workbench/gallery/page.hpp"
 #include "workbench/picture/png.hpp"
 
@@ -16,15 +11,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int PictureHeight = 128;
-
-void makeFolder(fs::path const& folder) {
-    std::error_code error, ignored;
-    fs::create_directories(folder, error);
-    if (!fs::is_directory(folder, ignored))
-        throw WorkError("cannot make the folder " + inQuotes(textOf(folder), 1000) + ": " +
-                        (error ? error.default_error_condition().message()
-                               : std::string("there is a file of that name")));
-}
 
 }  // namespace
 
