@@ -25,7 +25,7 @@ function(prism_layer target)
       file(MAKE_DIRECTORY ${folder}/${parent})
       file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${layer} ${folder}/${layer} SYMBOLIC)
     endif()
-    target_include_directories(${target} ${visibility} ${folder})
+    target_include_directories(${target} ${visibility} $<BUILD_INTERFACE:${folder}>)
   endforeach()
 endfunction()
 

@@ -7,7 +7,9 @@ function(prism_complete target)
 endfunction()
 
 # What stands in a plug-in: an ELF library with unique symbols is never unloaded.
-add_library(prism_unloadable INTERFACE)
+if(NOT TARGET prism_unloadable)
+  add_library(prism_unloadable INTERFACE)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT WIN32)
   target_compile_options(prism_unloadable INTERFACE -fno-gnu-unique)
 endif()

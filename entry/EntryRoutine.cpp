@@ -7,7 +7,7 @@ namespace prism {
 
 namespace {
 
-constexpr char ModuleName[] = "prism_tinctures";
+constexpr char ModuleName[] = TELM_MODULE;
 
 void tell(Orlo::VInitialization::InitPluginReason reason) {
     Orlo::VInitialization::initPlugin(reason, ModuleName, Orlo::InterfaceToken);

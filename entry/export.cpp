@@ -9,8 +9,8 @@
 #define TELM_VISIBLE TELM_EXPORT
 #endif
 
-/// The name holds the date of the interface and the name of the module. The
-/// host's answer passes through unchanged. [host]
-extern "C" TELM_VISIBLE int TELM_API_2024_MAR_06__prism_tinctures(Orlo::VInitialization* host) {
+/// Its name, which the build gives, holds the date of the interface and the name of the
+/// module. The host's answer passes through unchanged. [host]
+extern "C" TELM_VISIBLE int TELM_QUESTION(Orlo::VInitialization* host) {
     return host->IsCompatible(Orlo::InterfaceToken);
 }

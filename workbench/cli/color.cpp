@@ -162,7 +162,7 @@ void run(SessionOptions const& common, Arguments const& given) {
         resize = readResize(*given.size, given.method);
     std::unique_ptr<DataGrid> const grid = openGrid(given.grid, given.band, resize);
     std::vector<std::filesystem::path> inputs = grid->files();
-    inputs.push_back(common.plugin);
+    std::ranges::copy(pluginFiles(common.plugins), std::back_inserter(inputs));
     checkOutputs({given.file}, given.legend, inputs);
     OutputFiles outputs({given.legend});
     Interruption const interruption;

@@ -140,7 +140,7 @@ void checkLosses(std::vector<Exported> const& all, bool strict, bool quiet) {
 void exportOne(SessionOptions const& common, Arguments const& given) {
     Form const& form = findForm(*given.format);
     ExportOptions const options = optionsOf(given);
-    checkOutput(given.file, {common.plugin});
+    checkOutput(given.file, pluginFiles(common.plugins));
     StandardOutput output(true);
     Session const session(common);
     Exported const exported = exportMap(session, *given.key, form, options);

@@ -14,14 +14,32 @@ namespace workbench {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+/// The file that an argument names.
+fs::path fileOf(std::string const& text, std::string const& name) {
+    if (text.empty())
+        throw CallError(name + " is given the empty text, which names no file");
+    return pathOf(text);
+}
+
+}  // namespace
+
 CLI::Option* addFile(CLI::App& command, std::string const& name, fs::path& file,
                      std::string const& description) {
-    auto const take = [name, &file](std::string const& text) {
-        if (text.empty())
-            throw CallError(name + " is given the empty text, which names no file");
-        file = pathOf(text);
-    };
+    auto const take = [name, &file](std::string const& text) { file = fileOf(text, name); };
     return command.add_option_function<std::string>(name, take, description)->type_name("FILE");
+}
+
+CLI::Option* addFiles(CLI::App& command, std::string const& name, std::vector<fs::path>& files,
+                      std::string const& description) {
+    auto const take = [name, &files](std::vector<std::string> const& texts) {
+        for (std::string const& text : texts)
+            files.push_back(fileOf(text, name));
+    };
+    return command.add_option_function<std::vector<std::string>>(name, take, description)
+        ->type_name("FILE")
+        ->allow_extra_args(false);
 }
 
 void checkOutput(fs::path const& output, std::vector<fs::path> const& inputs) {

@@ -16,6 +16,10 @@ namespace workbench {
 CLI::Option* addFile(CLI::App& command, std::string const& name, std::filesystem::path& file,
                      std::string const& description);
 
+/// The same for an option that may be given several times.
+CLI::Option* addFiles(CLI::App& command, std::string const& name,
+                      std::vector<std::filesystem::path>& files, std::string const& description);
+
 /// Throws `CallError` if a file that is to be written is one of those that the
 /// command reads, under whatever name.
 void checkOutput(std::filesystem::path const& output,

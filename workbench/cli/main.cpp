@@ -24,7 +24,7 @@ namespace {
 enum ExitStatus { Done = 0, WorkFailed = 1, CallWrong = 2 };
 
 constexpr char Summary[] =
-    "telmbench loads a plug-in of colour maps, tells what is in it, looks colours up and draws.";
+    "telmbench loads plug-ins of colour maps, tells what is in them, looks colours up and draws.";
 
 constexpr char Footer[] = R"(Examples:
   telmbench catalogue
@@ -46,8 +46,10 @@ std::string levelProblem(std::string const& text) {
 }
 
 void addCommonOptions(CLI::App& program, SessionOptions& common) {
-    addFile(program, "--plugin", common.plugin,
-            "The plug-in to load, instead of the one beside the program");
+    addFiles(
+        program, "--plugin", common.plugins,
+        "A plug-in to load, or a folder of them, instead of the one beside the program; may be "
+        "given several times");
     program
         .add_option("--verbosity", common.verbosity,
                     "Show the host's messages up to this level on standard error: 50 for "

@@ -28,7 +28,7 @@ struct Arguments {
 
 void run(SessionOptions const& common, Arguments const& given) {
     Size const size = readSize(given.size);
-    checkOutput(given.file, {common.plugin});
+    checkOutput(given.file, pluginFiles(common.plugins));
     OutputFiles output({given.file});
     Session const session(common);
     MapObject const subject(session, given.key, given.settings);

@@ -41,14 +41,15 @@ struct Arguments {
     std::filesystem::path saved;
 };
 
-void checkArguments(Arguments const& given, std::filesystem::path const& plugin) {
+void checkArguments(Arguments const& given, std::vector<std::filesystem::path> const& plugins) {
     if (given.picture.empty() && given.saved.empty())
         throw CallError("nothing to do; -o FILE draws the picture, --save FILE writes the network");
     if (given.picture == given.saved || isSameFile(given.picture, given.saved))
         throw CallError("the picture and the network cannot both be written to " +
                         inQuotes(textOf(given.picture), 1000));
-    checkOutput(given.picture, {given.network, plugin});
-    checkOutput(given.saved, {plugin});
+    checkOutput(given.picture, {given.network});
+    checkOutput(given.picture, plugins);
+    checkOutput(given.saved, plugins);
 }
 
 Script readScript(std::filesystem::path const& file) {
@@ -95,7 +96,7 @@ Image draw(Network& network, std::string const& viewer) {
 }
 
 void run(SessionOptions const& common, Arguments const& given) {
-    checkArguments(given, common.plugin);
+    checkArguments(given, pluginFiles(common.plugins));
     Script const script = readScript(given.network);
     OutputFiles output({given.picture, given.saved});
     Session const session(common);

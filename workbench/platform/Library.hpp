@@ -3,6 +3,8 @@
 
 #include <filesystem>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 namespace workbench {
 
@@ -27,6 +29,9 @@ public:
     Function find(char const* name) const {
         return reinterpret_cast<Function>(symbol(name));
     }
+
+    /// The names of all that it exports, in the order of its table.
+    std::vector<std::string> exports() const;
 
 private:
     void* symbol(char const* name) const;

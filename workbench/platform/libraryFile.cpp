@@ -5,6 +5,7 @@
 #include <cstring>
 #include <fstream>
 #include <system_error>
+#include <type_traits>
 
 #include "workbench/platform/program.hpp"
 
@@ -53,15 +54,19 @@ struct Facts {
 
 #if defined(_WIN32)
 
+constexpr std::uint16_t Magic = 0x5a4d;  // "MZ"
+
+bool hasMagic(Headers& file) {
+    return file.number<std::remove_const_t<decltype(Magic)>>(0) == Magic;
+}
+
 Facts factsOf(Headers& file) {
-    constexpr std::uint16_t Magic = 0x5a4d;      // "MZ"
     constexpr std::uint32_t Signature = 0x4550;  // "PE"
     constexpr std::uint16_t Bits64 = 0x20b;      // the optional header's magic
     constexpr std::uint64_t SectionSize = 40;
     std::uint64_t const pe = file.number<std::uint32_t>(0x3c);
     Facts facts;
-    facts.isLibrary = file.number<std::uint16_t>(0) == Magic &&
-                      file.number<std::uint32_t>(pe) == Signature &&
+    facts.isLibrary = hasMagic(file) && file.number<std::uint32_t>(pe) == Signature &&
                       file.number<std::uint16_t>(pe + 24) == Bits64;
     if (!facts.isLibrary)
         return facts;
@@ -79,14 +84,18 @@ Facts factsOf(Headers& file) {
 
 #else
 
+constexpr std::uint32_t Magic = 0x464c457f;  // "\x7f" "ELF"
+
+bool hasMagic(Headers& file) {
+    return file.number<std::remove_const_t<decltype(Magic)>>(0) == Magic;
+}
+
 Facts factsOf(Headers& file) {
-    constexpr std::uint32_t Magic = 0x464c457f;  // "\x7f" "ELF"
     constexpr std::uint8_t Bits64 = 2;
     constexpr std::uint16_t SharedObject = 3;
     constexpr std::uint32_t Loaded = 1;
     Facts facts;
-    facts.isLibrary = file.number<std::uint32_t>(0) == Magic &&
-                      file.number<std::uint8_t>(4) == Bits64 &&
+    facts.isLibrary = hasMagic(file) && file.number<std::uint8_t>(4) == Bits64 &&
                       file.number<std::uint16_t>(16) == SharedObject;
     if (!facts.isLibrary)
         return facts;
@@ -113,6 +122,11 @@ std::uint16_t ownMachine() {
 }
 
 }  // namespace
+
+bool beginsAsLibrary(fs::path const& file) {
+    Headers headers(file);
+    return hasMagic(headers);
+}
 
 std::string libraryProblem(fs::path const& file) {
     Headers headers(file);

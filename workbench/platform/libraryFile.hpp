@@ -12,4 +12,7 @@ namespace workbench {
 /// that ends before its segments do would end the program.
 std::string libraryProblem(std::filesystem::path const& file);
 
+/// Whether a file begins as libraries and programs of this system do.
+bool beginsAsLibrary(std::filesystem::path const& file);
+
 }  // namespace workbench

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <memory>
 #include <stdexcept>
+#include <string>
 
 #include "host/creators/VInitialization.hpp"
 #include "workbench/platform/Library.hpp"
@@ -16,6 +17,9 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// How the names of plug-in files end.
+constexpr char PluginEnding[] = ".telm";
+
 /// One loaded plug-in.
 ///
 /// Loading runs the library's initialisers, which fill the catalogue, and asks
@@ -25,7 +29,7 @@ public:
 class PluginFile {
 public:
     /// Throws `PluginError` if the file is missing, is no library, has no
-    /// export of a plug-in, or if `host` does not take it; nothing stays loaded
+    /// export of a plug-in or more than one, or if `host` does not take it; nothing stays loaded
     /// then.
     PluginFile(std::filesystem::path const& file, Orlo::VInitialization& host);
     PluginFile(PluginFile const&) = delete;
@@ -33,12 +37,15 @@ public:
     ~PluginFile() = default;
 
     std::filesystem::path const& path() const noexcept { return path_; }
+    /// What the module calls itself: the end of its export's name.
+    std::string const& module() const noexcept { return module_; }
     /// The host's answer as it came back through the export.
     int answer() const noexcept { return answer_; }
 
 private:
     std::filesystem::path path_;
     std::unique_ptr<Library> library_;
+    std::string module_;
     int answer_;
 };
 

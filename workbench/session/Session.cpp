@@ -20,31 +20,21 @@ Orlo::VInitialization hostFor(SessionOptions const& options) {
                           : Orlo::VInitialization();
 }
 
-/// The entries that were registered behind the first ones.
-std::vector<Orlo::WeakCreatorPtr> entriesFrom(std::size_t first) {
-    std::vector<Orlo::WeakCreatorPtr> all = Orlo::catalogue();
-    all.erase(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(first));
-    return all;
-}
-
 }  // namespace
 
 Session::Session(SessionOptions const& options)
-    : host_(hostFor(options)),
-      before_(Orlo::catalogue().size()),
-      plugin_(options.plugin.empty() ? pluginBesideProgram() : options.plugin, host_),
-      entries_(entriesFrom(before_)) {}
+    : host_(hostFor(options)), plugins_(pluginFiles(options.plugins), host_) {}
 
 Orlo::WeakCreatorPtr Session::find(std::string const& key) const {
-    for (auto const& entry : entries_)
+    for (auto const& entry : entries())
         if (entry->keyname("/") == key)
             return entry;
-    for (auto const& entry : entries_)
+    for (auto const& entry : entries())
         if (nameIn(entry->keyname("/")) == key)
             return entry;
     bool const full = key.find('/') != std::string::npos;
     std::vector<std::string> names;
-    for (auto const& entry : entries_)
+    for (auto const& entry : entries())
         names.push_back(full ? entry->keyname("/") : nameIn(entry->keyname("/")));
     throw CallError("there is no entry " + inQuotes(key) +
                     suggestion(key, names, "; 'telmbench catalogue' lists them"));

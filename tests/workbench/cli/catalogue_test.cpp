@@ -20,8 +20,11 @@ Json entry(std::string const& key) {
     return {};
 }
 
-TEST(Catalogue, JsonTellsAllThatAnEntrySaysOfItself) {
-    EXPECT_EQ(entry("Colormaps/Topographic").dump(2), R"({
+TEST(Catalogue, JsonTellsAllThatAnEntrySaysOfItselfAndWhoseItIs) {
+    Json topographic = entry("Colormaps/Topographic");
+    EXPECT_EQ(topographic["plugin"], fileBeside("prism_tinctures.telm"));
+    topographic.erase("plugin");
+    EXPECT_EQ(topographic.dump(2), R"({
   "key": "Colormaps/Topographic",
   "order": 0,
   "preferences": [
@@ -35,7 +38,8 @@ TEST(Catalogue, JsonTellsAllThatAnEntrySaysOfItself) {
   ],
   "source": "prism/tinctures/Hypsometric",
   "date": "Mar 22 2024",
-  "todo": "todo"
+  "todo": "todo",
+  "module": "prism_tinctures"
 })");
 }
 
@@ -82,10 +86,11 @@ TEST(Catalogue, TheOrderIsThatOfRegistration) {
 
 TEST(Catalogue, AnEntryWithoutTextsHasNullInTheirPlace) {
     std::string const plugin = fileBeside("talking_plugin.telm");
-    Json const entries = Json::parse(telmbench({"--plugin", plugin, "catalogue", "--json"}).out);
+    Json entries = Json::parse(telmbench({"--plugin", plugin, "catalogue", "--json"}).out);
+    entries[0].erase("plugin");
     EXPECT_EQ(entries.dump(), R"([{"key":"Colormaps/Talker","order":7,"preferences":[],)"
                               R"("description":"Says \"hello\".","tags":[],"source":null,)"
-                              R"("date":null,"todo":null}])");
+                              R"("date":null,"todo":null,"module":"talking_plugin"}])");
 }
 
 TEST(Catalogue, ADescriptionThatIsSetButEmptyIsNotLikeNone) {

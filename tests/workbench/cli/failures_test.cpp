@@ -28,7 +28,7 @@ FailureCase const pluginCases[] = {
     {"a folder",
      {"--plugin", "{folder}", "catalogue"},
      WorkFailed,
-     "the plug-in '{folder}' is a folder; --plugin FILE names the library itself"},
+     "the folder '{folder}' holds no plug-in: no library of this system with a name in .telm"},
     {"a file that is no library",
      {"--plugin", "{folder}/text.telm", "catalogue"},
      WorkFailed,
@@ -46,7 +46,18 @@ FailureCase const pluginCases[] = {
      {"--plugin", "{beside}/no_plugin.telm", "catalogue"},
      WorkFailed,
      "the plug-in '{beside}/no_plugin.telm' is a library, but not this kind of plug-in: it lacks "
-     "the export TELM_API_2024_MAR_06__prism_tinctures"},
+     "the export TELM_API_2024_MAR_06__NAME"},
+    {"a library with two of the exports",
+     {"--plugin", "{beside}/two_questions.telm", "catalogue"},
+     WorkFailed,
+     "the plug-in '{beside}/two_questions.telm' exports TELM_API_2024_MAR_06__one and "
+     "TELM_API_2024_MAR_06__two; a plug-in has one of them"},
+    {"a plug-in for another interface",
+     {"--plugin", "{beside}/older_plugin.telm", "catalogue"},
+     WorkFailed,
+     "the plug-in '{beside}/older_plugin.telm' is for another interface: it exports "
+     "TELM_API_2023_DEC_24__older, and this host looks for TELM_API_2024_MAR_06__NAME; build it "
+     "against this host's interface"},
     {"a host that does not fit",
      {"--plugin", "{beside}/prism_tinctures.telm", "--refuse", "catalogue"},
      WorkFailed,

@@ -64,6 +64,6 @@ bool const valueTypes = registerValueTypes<int, double>();
 
 }  // namespace
 
-extern "C" TELM_EXPORT int TELM_API_2024_MAR_06__prism_tinctures(VInitialization* host) {
+extern "C" TELM_EXPORT int TELM_API_2024_MAR_06__talking_plugin(VInitialization* host) {
     return host->IsCompatible(InterfaceToken);
 }

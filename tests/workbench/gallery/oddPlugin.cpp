@@ -57,6 +57,6 @@ bool const valueTypes = registerValueTypes<double>();
 
 }  // namespace
 
-extern "C" TELM_EXPORT int TELM_API_2024_MAR_06__prism_tinctures(VInitialization* host) {
+extern "C" TELM_EXPORT int TELM_API_2024_MAR_06__odd_plugin(VInitialization* host) {
     return host->IsCompatible(InterfaceToken);
 }

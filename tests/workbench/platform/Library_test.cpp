@@ -1,6 +1,6 @@
 #include "workbench/platform/Library.hpp"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "tests/support/Process.hpp"
 #include "workbench/common/files.hpp"
@@ -16,6 +16,13 @@ TEST(Libraries, GiveWhatTheyExportByItsName) {
     ASSERT_NE(function, nullptr);
     EXPECT_EQ(function(), 1);
     EXPECT_EQ(library.find<int (*)()>("notTheExpor"), nullptr);
+}
+
+TEST(Libraries, TellAllThatTheyExport) {
+    EXPECT_THAT(Library(fileBesideProgram("no_plugin.telm")).exports(),
+                testing::Contains("notTheExport"));
+    EXPECT_THAT(Library(fileBesideProgram("prism_tinctures.telm")).exports(),
+                testing::ElementsAre("TELM_API_2024_MAR_06__prism_tinctures"));
 }
 
 TEST(Libraries, SayWhyTheyAreNotLoaded) {
