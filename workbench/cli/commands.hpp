@@ -20,5 +20,6 @@ void addGallery(CLI::App& program, SessionOptions const& common);
 void addLookup(CLI::App& program, SessionOptions const& common);
 void addRamp(CLI::App& program, SessionOptions const& common);
 void addRun(CLI::App& program, SessionOptions const& common);
+void addServe(CLI::App& program, SessionOptions const& common);
 
 }  // namespace workbench

@@ -64,13 +64,8 @@ std::vector<double> readValues(std::vector<std::string> const& texts) {
 
 std::string asText(Orlo::Colormap const& map, std::vector<double> const& values) {
     std::string text;
-    for (double const value : values) {
-        Orlo::rgba_float_t const color = map.getColor(value);
-        text += shortest(value);
-        for (std::size_t i = 0; i < color.size(); ++i)
-            text += " " + shortest(color[i]);
-        text += "\n";
-    }
+    for (double const value : values)
+        text += lookupLine(map, value) + "\n";
     return text;
 }
 

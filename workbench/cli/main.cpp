@@ -64,8 +64,8 @@ void addCommonOptions(CLI::App& program, SessionOptions& common) {
 
 void addCommands(CLI::App& program, SessionOptions const& common) {
     program.require_subcommand(1);
-    for (auto* const add :
-         {addCatalogue, addColor, addDescribe, addExport, addGallery, addLookup, addRamp, addRun})
+    for (auto* const add : {addCatalogue, addColor, addDescribe, addExport, addGallery, addLookup,
+                            addRamp, addRun, addServe})
         add(program, common);
 }
 

@@ -16,11 +16,6 @@ bool isHexadecimal(std::string_view text) {
     return text.starts_with("0x") || text.starts_with("0X");
 }
 
-template <class Number>
-std::string shortestText(Number value) {
-    return value != value ? "nan" : Orlo::numberText(value);
-}
-
 bool isPictureSide(int pixels) {
     return pixels >= 1 && pixels <= Image::MaxPixelsASide;
 }
@@ -41,14 +36,6 @@ std::optional<double> readNumber(std::string_view text) {
     if (error != std::errc() || stop != end)
         return std::nullopt;
     return negative ? -value : value;
-}
-
-std::string shortest(double value) {
-    return shortestText(value);
-}
-
-std::string shortest(float value) {
-    return shortestText(value);
 }
 
 Size readSize(std::string const& text) {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "workbench/common/Interval.hpp"
+#include "workbench/session/lookupLine.hpp"
 
 namespace workbench {
 
@@ -14,10 +15,6 @@ namespace workbench {
 /// (`0x1.8p-1`), `nan`, `inf`, `-inf`. Empty if it means none or one beyond the
 /// range of a double.
 std::optional<double> readNumber(std::string_view text);
-
-/// The shortest text that reads back to the same number; `nan` for any NaN.
-std::string shortest(double value);
-std::string shortest(float value);
 
 /// A picture's width and height in pixels.
 struct Size {

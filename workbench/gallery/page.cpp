@@ -100,21 +100,20 @@ std::string plots(Samples const& samples) {
                lightnessPlot(samples));
 }
 
-std::string deficiencies(Exhibit const& exhibit) {
+std::string deficiencies(Samples const& samples, std::string const& name) {
     struct Kind {
         Deficiency deficiency;
         char const* name;
     };
     std::string rows;
-    for (auto const& [deficiency, name] : {Kind{Deficiency::Protan, "Protan"},
+    for (auto const& [deficiency, kind] : {Kind{Deficiency::Protan, "Protan"},
                                            {Deficiency::Deutan, "Deutan"},
                                            {Deficiency::Tritan, "Tritan"}}) {
         Image const ramp =
-            rampOf(exhibit.samples, 1, [kind = deficiency](Orlo::rgba_float_t const& color) {
-                return colorOf(seenWith(kind, lightOf(color)));
+            rampOf(samples, 1, [missing = deficiency](Orlo::rgba_float_t const& color) {
+                return colorOf(seenWith(missing, lightOf(color)));
             });
-        rows +=
-            row("strip", name, image(dataUri(ramp), std::string(name) + " view of " + exhibit.key));
+        rows += row("strip", kind, image(dataUri(ramp), std::string(kind) + " view of " + name));
     }
     return rows;
 }
@@ -180,7 +179,7 @@ std::string section(Exhibit const& exhibit, std::string const& word) {
     std::string text = heading(exhibit);
     text += row("main", "Defaults", image(pictureName(word), "Ramp of " + exhibit.key));
     text += plots(exhibit.samples);
-    text += deficiencies(exhibit);
+    text += deficiencies(exhibit.samples, exhibit.key);
     for (Variant const& variant : exhibit.variants)
         text += variantRow(exhibit, variant);
     text += parameterTable(exhibit.parameters);
@@ -188,6 +187,11 @@ std::string section(Exhibit const& exhibit, std::string const& word) {
     return element("section", "id=\"" + word + "\" data-key=\"" + escapeHtml(exhibit.key) + "\"",
                    "\n" + text) +
            "\n";
+}
+
+std::string glass(Samples const& samples, std::string const& name) {
+    return row("main", "Ramp", image(dataUri(rampOf(samples, 1)), "Ramp of " + name)) +
+           plots(samples) + deficiencies(samples, name);
 }
 
 std::string page(std::vector<Exhibit> const& exhibits, std::vector<std::string> const& words,

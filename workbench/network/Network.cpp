@@ -86,12 +86,6 @@ void checkWritable(ValuePath const& path, string const& text) {
                         std::to_string(Script::MaxLineLength) + " bytes");
 }
 
-/// The heads of the last two sections, which programs write.
-bool isSectionHead(Line const& line) {
-    return std::holds_alternative<CommentLine>(line.meaning) &&
-           (line.text == "# Establish Connections" || line.text == "# Setup Objects");
-}
-
 /// What is wrong with an object, unless that is the fault of one that it reads.
 Fault faultOf(Orlo::VObject const& object) {
     auto const* const node = dynamic_cast<Node const*>(&object);
@@ -145,6 +139,13 @@ Orlo::PoolPtr Network::pool(string const& context) {
     if (!pool)
         pool = new Orlo::ValuePool(context);
     return pool;
+}
+
+std::vector<string> Network::contexts() const {
+    std::vector<string> names;
+    for (auto const& [name, pool] : pools_)
+        names.push_back(name);
+    return names;
 }
 
 string Network::attribute(string const& object, string const& name) const {

@@ -38,12 +38,20 @@ public:
     Orlo::ObjectPtr object(std::string const& name) const;
     /// The object of that name, or empty.
     Orlo::ObjectPtr findObject(std::string const& name) const;
+    /// Whether an object of that name could not be made.
+    bool isMissing(std::string const& name) const { return missing_.contains(name); }
     /// The names of all objects, in alphabetical order.
     std::vector<std::string> names() const;
     /// The names of all viewers, in alphabetical order.
     std::vector<std::string> viewers() const;
     /// The value pool of a context, made when it is asked for first.
     Orlo::PoolPtr pool(std::string const& context);
+    /// The contexts that were asked for so far, in alphabetical order.
+    std::vector<std::string> contexts() const;
+    /// Whether an object reads another one, also by way of others.
+    bool dependsOn(Orlo::VObject const& consumer, Orlo::VObject const& provider) const {
+        return dependencies_.dependsOn(consumer, provider);
+    }
     /// An attribute of the network editor, such as `qTelm::Net::x`; empty if it
     /// was never set.
     std::string attribute(std::string const& object, std::string const& name) const;
@@ -59,7 +67,9 @@ public:
     /// with the line concerned. What `complaints` tells already is left out.
     std::vector<Complaint> faultsBehind(std::string const& viewer) const;
 
-    /// The network as it now stands, as the text of a script.
+    /// The network as it now stands, line by line.
+    Script const& script() const noexcept { return script_; }
+    /// The same as the text of a script.
     std::string save() const { return script_.write(); }
 
 private:

@@ -51,8 +51,16 @@ Interruption::~Interruption() {
         std::raise(requested);
 }
 
+bool Interruption::isRequested() {
+    return requested != 0;
+}
+
+void Interruption::answer() {
+    requested = 0;
+}
+
 void Interruption::check() {
-    if (requested != 0)
+    if (isRequested())
         throw WorkError("the work was interrupted");
 }
 

@@ -16,6 +16,11 @@ public:
 
     /// Throws `WorkError` if the program was asked to end.
     static void check();
+
+    /// Whether the program was asked to end.
+    static bool isRequested();
+    /// Takes the request as answered: whoever ends by it ends as planned.
+    static void answer();
 };
 
 }  // namespace workbench

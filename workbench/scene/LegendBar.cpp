@@ -10,13 +10,15 @@ namespace workbench {
 
 namespace {
 
+/// The scalar in the middle of a row of pixels.
+double scalarAt(PixelRect const& bar, int y, Orlo::Colormap const& map) {
+    return domainOf(map).at((bar.bottom() - y - 0.5) / bar.height);
+}
+
 void drawColors(Image& image, PixelRect const& bar, Orlo::Colormap const& map) {
-    Interval const domain = domainOf(map);
     int const end = std::min(bar.bottom(), image.height());
-    for (int y = std::max(bar.top, 0); y < end; ++y) {
-        double const part = (bar.bottom() - y - 0.5) / bar.height;
-        image.fill(bar.left, y, bar.width, 1, opaque(map.getColor(domain.at(part))));
-    }
+    for (int y = std::max(bar.top, 0); y < end; ++y)
+        image.fill(bar.left, y, bar.width, 1, opaque(map.getColor(scalarAt(bar, y, map))));
 }
 
 /// Into how many parts the labels divide the bar: as many as fit well; none if
@@ -63,6 +65,13 @@ void LegendBar::drawOver(Image& image) const {
         drawColors(image, bar, *map_);
     }
     drawFrame(image, bar, textScale(image), border);  // over the seams of the marks
+}
+
+std::optional<Reading> LegendBar::readOver(Image const& image, int x, int y) const {
+    PixelRect const bar = pixelRect(style_.position, style_.width, style_.height, image);
+    if (!map_ || x < bar.left || x >= bar.right() || y < bar.top || y >= bar.bottom())
+        return std::nullopt;
+    return Reading{std::nullopt, scalarAt(bar, y, *map_), map_};
 }
 
 Image legendPicture(Orlo::ColormapPtr const& map, Interval const& range) {

@@ -28,6 +28,7 @@ public:
               std::optional<Interval> const& labels = {});
 
     void drawOver(Image& image) const override;
+    std::optional<Reading> readOver(Image const& image, int x, int y) const override;
 
 private:
     Orlo::ColormapPtr map_;

@@ -8,4 +8,12 @@ std::optional<Fragment> Renderable::intersect(Ray const&) const {
 
 void Renderable::drawOver(Image&) const {}
 
+std::optional<Reading> Renderable::read(Ray const&) const {
+    return std::nullopt;
+}
+
+std::optional<Reading> Renderable::readOver(Image const&, int, int) const {
+    return std::nullopt;
+}
+
 }  // namespace workbench

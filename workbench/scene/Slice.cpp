@@ -48,16 +48,17 @@ Slice::Slice(Field const& field, Orlo::ColormapPtr const& map, SliceOptions cons
     sampleField(field);
     if (options_.mode != SliceMode::Smooth)
         return;
-    colors_.reserve(scalars_.size());
-    for (double const scalar : scalars_)
-        colors_.push_back(colorOf(scalar));
+    colors_.reserve(texels_.size());
+    for (double const texel : texels_)
+        colors_.push_back(colorOf(texel));
 }
 
 /// The plane may lie between two layers of samples.
 void Slice::sampleField(Field const& field) {
     auto const normal = static_cast<std::size_t>(options_.normal);
     Between const layer(grid_.position(plane_), grid_.samples);
-    scalars_.resize(index(0, grid_.samples));
+    samples_.resize(index(0, grid_.samples));
+    texels_.resize(samples_.size());
     for (int along = 0; along < grid_.samples; ++along)
         for (int across = 0; across < grid_.samples; ++across) {
             std::array<int, 3> position{};
@@ -67,7 +68,9 @@ void Slice::sampleField(Field const& field) {
             double const lower = field.sample(position[0], position[1], position[2]);
             ++position[normal];
             double const upper = field.sample(position[0], position[1], position[2]);
-            scalars_[index(across, along)] = texel(lerp(lower, upper, layer.part));
+            double const sample = lerp(lower, upper, layer.part);
+            samples_[index(across, along)] = sample;
+            texels_[index(across, along)] = texel(sample);
         }
 }
 
@@ -80,8 +83,12 @@ double Slice::texel(double sample) const {
 }
 
 /// The map's domain spans the texture's 0 to 1.
-Tessar::rgba_float_t Slice::colorOf(double scalar) const {
-    return map_->getColor(domainOf(*map_).at(scalar));
+double Slice::scalarOf(double texel) const {
+    return domainOf(*map_).at(texel);
+}
+
+Tessar::rgba_float_t Slice::colorOf(double texel) const {
+    return map_->getColor(scalarOf(texel));
 }
 
 std::size_t Slice::index(int across, int along) const {
@@ -89,22 +96,31 @@ std::size_t Slice::index(int across, int along) const {
            static_cast<std::size_t>(across);
 }
 
-Tessar::rgba_float_t Slice::colorAt(double across, double along) const {
-    if (options_.mode == SliceMode::Discrete)
-        return colorOf(
-            scalars_[index(static_cast<int>(across + 0.5), static_cast<int>(along + 0.5))]);
+/// What a texture has at a place between four of its entries.
+template <class Texture>
+auto Slice::blend(Texture const& texture, double across, double along) const {
     Between const x(across, grid_.samples);
     Between const y(along, grid_.samples);
-    auto const blend = [&](auto const& texture) {
-        std::size_t const corner = index(x.lower, y.lower);
-        std::size_t const above = index(x.lower, y.lower + 1);
-        return lerp(lerp(texture[corner], texture[corner + 1], x.part),
-                    lerp(texture[above], texture[above + 1], x.part), y.part);
-    };
-    return options_.mode == SliceMode::Smooth ? blend(colors_) : colorOf(blend(scalars_));
+    std::size_t const corner = index(x.lower, y.lower);
+    std::size_t const above = index(x.lower, y.lower + 1);
+    return lerp(lerp(texture[corner], texture[corner + 1], x.part),
+                lerp(texture[above], texture[above + 1], x.part), y.part);
 }
 
-std::optional<Fragment> Slice::intersect(Ray const& ray) const {
+/// What the mode shows of a texture at a place.
+template <class Texture>
+auto Slice::shown(Texture const& texture, double across, double along) const {
+    return options_.mode == SliceMode::Discrete
+               ? texture[index(static_cast<int>(across + 0.5), static_cast<int>(along + 0.5))]
+               : blend(texture, across, along);
+}
+
+Tessar::rgba_float_t Slice::colorAt(double across, double along) const {
+    return options_.mode == SliceMode::Smooth ? blend(colors_, across, along)
+                                              : colorOf(shown(texels_, across, along));
+}
+
+std::optional<Slice::Hit> Slice::hit(Ray const& ray) const {
     auto const normal = static_cast<std::size_t>(options_.normal);
     auto const position = [&](std::size_t axis, double depth) {
         double Point::*const coordinate = Axes[axis];
@@ -117,7 +133,25 @@ std::optional<Fragment> Slice::intersect(Ray const& ray) const {
     // written so that a ray along the plane, which has no depth, misses
     if (!(across >= 0 && across <= last && along >= 0 && along <= last))
         return std::nullopt;
-    return Fragment{depth, colorAt(across, along), options_.opacity};
+    return Hit{depth, across, along};
+}
+
+std::optional<Fragment> Slice::intersect(Ray const& ray) const {
+    std::optional<Hit> const met = hit(ray);
+    if (!met)
+        return std::nullopt;
+    return Fragment{met->depth, colorAt(met->across, met->along), options_.opacity};
+}
+
+/// With the mode Smooth a colour between samples is that of no scalar.
+std::optional<Reading> Slice::read(Ray const& ray) const {
+    std::optional<Hit> const met = hit(ray);
+    if (!met)
+        return std::nullopt;
+    Reading reading{shown(samples_, met->across, met->along), {}, map_};
+    if (options_.mode != SliceMode::Smooth)
+        reading.scalar = scalarOf(shown(texels_, met->across, met->along));
+    return reading;
 }
 
 }  // namespace workbench

@@ -31,11 +31,25 @@ public:
     Slice(Field const& field, Orlo::ColormapPtr const& map, SliceOptions const& options);
 
     std::optional<Fragment> intersect(Ray const& ray) const override;
+    std::optional<Reading> read(Ray const& ray) const override;
 
 private:
+    /// Where a ray meets the plane: how deep, and where among the samples.
+    struct Hit {
+        double depth;
+        double across;
+        double along;
+    };
+
+    std::optional<Hit> hit(Ray const& ray) const;
     void sampleField(Field const& field);
     double texel(double sample) const;
-    Tessar::rgba_float_t colorOf(double scalar) const;
+    double scalarOf(double texel) const;
+    Tessar::rgba_float_t colorOf(double texel) const;
+    template <class Texture>
+    auto blend(Texture const& texture, double across, double along) const;
+    template <class Texture>
+    auto shown(Texture const& texture, double across, double along) const;
     Tessar::rgba_float_t colorAt(double across, double along) const;
     std::size_t index(int across, int along) const;
 
@@ -43,8 +57,9 @@ private:
     SliceOptions options_;
     UniformGrid grid_;
     double plane_;                              ///< coordinate of the plane
-    std::vector<double> scalars_;               ///< row by row along the second axis
-    std::vector<Tessar::rgba_float_t> colors_;  ///< of the scalars, with the mode Smooth
+    std::vector<double> samples_;               ///< row by row along the second axis
+    std::vector<double> texels_;                ///< 0 to 1, of the samples
+    std::vector<Tessar::rgba_float_t> colors_;  ///< of the texels, with the mode Smooth
 };
 
 }  // namespace workbench

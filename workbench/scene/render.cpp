@@ -1,6 +1,7 @@
 #include "workbench/scene/render.hpp"
 
 #include <algorithm>
+#include <ranges>
 
 namespace workbench {
 
@@ -16,6 +17,14 @@ Tessar::rgba_float_t over(Fragment const& front, Tessar::rgba_float_t const& beh
     return result;
 }
 
+/// What a ray meets of a member among the depths that are shown.
+std::optional<Fragment> seen(Renderable const& member, View const& view, Ray const& ray) {
+    std::optional<Fragment> fragment = member.intersect(ray);
+    if (fragment && !(fragment->depth >= view.minDepth && fragment->depth <= view.maxDepth))
+        fragment.reset();
+    return fragment;
+}
+
 /// Finds the colour that is seen along a ray.
 class Tracer {
 public:
@@ -24,10 +33,8 @@ public:
     Tessar::rgba_float_t colorAlong(Ray const& ray) {
         fragments_.clear();
         for (RenderablePtr const& member : shown_.scene->members)
-            if (std::optional<Fragment> const fragment = member->intersect(ray))
-                if (fragment->depth >= shown_.view.minDepth &&
-                    fragment->depth <= shown_.view.maxDepth)
-                    fragments_.push_back(*fragment);
+            if (std::optional<Fragment> const fragment = seen(*member, shown_.view, ray))
+                fragments_.push_back(*fragment);
         std::ranges::stable_sort(fragments_, std::ranges::greater(), &Fragment::depth);
         Tessar::rgba_float_t color = shown_.background;
         for (Fragment const& fragment : fragments_)
@@ -64,6 +71,24 @@ Image render(Shown const& shown, std::function<void(double)> const& progress) {
     if (progress)
         progress(1.0);
     return image;
+}
+
+std::optional<Reading> readPixel(Shown const& shown, Image const& picture, int x, int y) {
+    if (!shown.scene || !picture.contains(x, y))
+        return std::nullopt;
+    for (RenderablePtr const& member : shown.scene->members | std::views::reverse)
+        if (std::optional<Reading> const reading = member->readOver(picture, x, y))
+            return reading;
+    Ray const ray = Lens(shown.view, picture.width(), picture.height()).through(x, y);
+    std::optional<Reading> nearest;
+    double depth = shown.view.maxDepth;
+    for (RenderablePtr const& member : shown.scene->members)
+        if (std::optional<Fragment> const fragment = seen(*member, shown.view, ray))
+            if (fragment->opacity > 0 && fragment->depth <= depth) {
+                nearest = member->read(ray);
+                depth = fragment->depth;
+            }
+    return nearest;
 }
 
 }  // namespace workbench

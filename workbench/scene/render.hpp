@@ -22,4 +22,8 @@ struct Shown {
 /// the same bytes on every system. [any]
 Image render(Shown const& shown, std::function<void(double)> const& progress = {});
 
+/// What a pixel of its picture shows: the frontmost that has numbers. Empty outside
+/// the picture and where nothing is. [any]
+std::optional<Reading> readPixel(Shown const& shown, Image const& picture, int x, int y);
+
 }  // namespace workbench
