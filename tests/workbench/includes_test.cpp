@@ -84,6 +84,7 @@ constexpr Reserved ReservedHeaders[] = {
     {"<CLI/", "cli"},       {"<windows.h>", "platform"}, {"<dlfcn.h>", "platform"},
     {"<io.h>", "platform"}, {"<unistd.h>", "platform"},  {"<fcntl.h>", "platform"},
     {"<sys/", "platform"},  {"<gdal", "data"},           {"<cpl_", "data"},
+    {"<boost/", "serve"},
 };
 
 /// What a source of the workbench has against the order.

@@ -125,6 +125,7 @@ Studio::Studio(Setup setup)
     : setup_(std::move(setup)),
       title_(textOf(pathOf(setup_.file).filename())),
       world_(std::make_unique<World>(setup_.session, Script::read(setup_.text))),
+      plugins_(pluginFiles(setup_.session.plugins)),
       loaded_(timeNow()) {}
 
 // --- changes
@@ -409,13 +410,11 @@ Refresh const& Studio::refresh() {
     return *refresh_;
 }
 
-string Studio::pluginName() const {
-    std::filesystem::path const& file = setup_.session.plugin;
-    return textOf((file.empty() ? pluginBesideProgram() : file).filename());
-}
-
 Json Studio::pluginsOf() const {
-    return Json::array({{{"file", pluginName()}, {"error", nullptr}, {"loaded", loaded_}}});
+    Json all = Json::array();
+    for (std::filesystem::path const& file : plugins_)
+        all.push_back({{"file", textOf(file.filename())}, {"error", nullptr}, {"loaded", loaded_}});
+    return all;
 }
 
 string const& Studio::state() {
@@ -502,7 +501,7 @@ string Studio::icon(string const& name) {
 
 string const& Studio::catalogue() {
     if (!catalogue_)
-        catalogue_ = textOf(catalogueOf(world_->session(), pluginName()));
+        catalogue_ = textOf(catalogueOf(world_->session()));
     return *catalogue_;
 }
 
@@ -521,6 +520,9 @@ string Studio::ramp(string const& key) {
 }
 
 string Studio::command() const {
+    std::vector<string> plugins;
+    for (std::filesystem::path const& plugin : setup_.session.plugins)
+        plugins.push_back(textOf(plugin));
     auto const textAt = [this](ValuePath const& path) {
         Orlo::ObjectPtr const object = network().findObject(path.object);
         Orlo::SlotPtr const slot = object ? object->slot(path.name) : Orlo::SlotPtr();
@@ -530,8 +532,8 @@ string Studio::command() const {
                            " away; save the network first, and run that");
         return slot->ownParameter()->ownValue()->text();
     };
-    return commandFor({textOf(setup_.session.plugin), setup_.file}, Script::read(setup_.text),
-                      network().script(), textAt);
+    return commandFor({plugins, setup_.file}, Script::read(setup_.text), network().script(),
+                      textAt);
 }
 
 }  // namespace workbench

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <memory>
@@ -113,11 +114,11 @@ private:
     Orlo::ColormapPtr mapOfObject(std::string const& object);
     Refresh const& refresh();
     Json pluginsOf() const;
-    std::string pluginName() const;
 
     Setup setup_;
     std::string title_;
     std::unique_ptr<World> world_;
+    std::vector<std::filesystem::path> plugins_;
     std::string loaded_;  ///< when the plug-in was
     std::uint64_t revision_ = 1;
     std::uint64_t content_ = 1;  ///< counts the changes that pictures may depend on

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <map>
-#include <vector>
 
 #include "workbench/serve/Studio.hpp"
 
@@ -64,8 +63,8 @@ string commandFor(CommandFiles const& files, Script const& file, Script const& p
         if (!now.contains(path))
             now[path] = textAt(*valuePathOf(path));
     string command = "telmbench";
-    if (!files.plugin.empty())
-        command += " --plugin " + shellWord(files.plugin);
+    for (string const& plugin : files.plugins)
+        command += " --plugin " + shellWord(plugin);
     command += " run " + shellWord(files.network);
     for (auto const& [path, value] : now)
         if (auto const known = before.find(path); known == before.end() || known->second != value)

@@ -3,14 +3,15 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "workbench/network/Script.hpp"
 
 namespace workbench {
 
-/// What the command is to read. Both are names of files; the plug-in may be empty.
+/// Names of the files that the command is to read.
 struct CommandFiles {
-    std::string plugin;
+    std::vector<std::string> plugins;
     std::string network;
 };
 

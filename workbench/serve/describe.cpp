@@ -7,6 +7,7 @@
 
 #include "runtime/quartz/text.hpp"
 #include "workbench/common/errors.hpp"
+#include "workbench/common/paths.hpp"
 #include "workbench/nodes/HostObject.hpp"
 #include "workbench/nodes/Viewer.hpp"
 #include "workbench/session/entries.hpp"
@@ -379,12 +380,13 @@ Json entryOf(Orlo::VCreatorBase const& entry, bool isOfMap, string const& plugin
 
 }  // namespace
 
-Json catalogueOf(Session const& session, std::string const& plugin) {
+Json catalogueOf(Session const& session) {
     Json all = Json::array();
     std::set<Orlo::VCreatorBase const*> ofPlugins;
     for (Orlo::WeakCreatorPtr const& entry : session.entries()) {
         ofPlugins.insert(entry.get());
-        all.push_back(entryOf(*entry, isMap(*create(entry)), plugin));
+        all.push_back(entryOf(*entry, isMap(*create(entry)),
+                              textOf(session.pluginOf(*entry).path().filename())));
     }
     for (Orlo::WeakCreatorPtr const& entry : Orlo::catalogue())
         if (!ofPlugins.contains(entry.get()))

@@ -30,6 +30,6 @@ Json viewersOf(Network& network, Refresh const& refresh);
 Json nodesOf(Network& network, Refresh const& refresh);
 
 /// All entries that can be made: those of the plug-ins, then the host's own.
-Json catalogueOf(Session const& session, std::string const& plugin);
+Json catalogueOf(Session const& session);
 
 }  // namespace workbench
