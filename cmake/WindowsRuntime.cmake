@@ -7,10 +7,11 @@ foreach(name libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
   if(NOT IS_ABSOLUTE "${file}")
     set(file ${CMAKE_FIND_ROOT_PATH}/lib/${name})
   endif()
-  if(NOT EXISTS ${CMAKE_BINARY_DIR}/bin/${name})
-    file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+  if(NOT EXISTS ${PROJECT_BINARY_DIR}/bin/${name})
+    file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
     execute_process(
-      COMMAND ${CMAKE_STRIP} --strip-all -o ${CMAKE_BINARY_DIR}/bin/${name} ${file}
+      COMMAND ${CMAKE_STRIP} --strip-all -o ${PROJECT_BINARY_DIR}/bin/${name} ${file}
       COMMAND_ERROR_IS_FATAL ANY)
   endif()
+  list(APPEND PRISM_WINDOWS_RUNTIME ${PROJECT_BINARY_DIR}/bin/${name})
 endforeach()
