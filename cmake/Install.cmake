@@ -32,7 +32,8 @@ else()
   install(FILES ${PROJECT_BINARY_DIR}/link/telmbench DESTINATION bin COMPONENT host)
 endif()
 
-# The networks to try.
+# The networks to try, and beside the program the one that it shows if none is named.
+install(FILES prism/tinctures/examples/HypsometricSlice.telm DESTINATION ${programs} COMPONENT host)
 install(DIRECTORY prism/tinctures/examples/ DESTINATION share/prism_host/networks COMPONENT plugin
   FILES_MATCHING PATTERN *.telm)
 
