@@ -6,6 +6,7 @@
 #include <random>
 
 #include "workbench/common/inQuotes.hpp"
+#include "workbench/gallery/style.hpp"
 #include "workbench/picture/png.hpp"
 #include "workbench/serve/pageFiles.hpp"
 
@@ -150,6 +151,10 @@ constexpr Route Routes[] = {
      }},
     {"icon",
      [](Studio& studio, Query const& query) { return png(studio.icon(query.text("object"))); }},
+    {"gallery.css",
+     [](Studio&, Query const&) {
+         return Response{.type = "text/css; charset=utf-8", .body = Style};
+     }},
     {"catalogue", [](Studio& studio, Query const&) { return json(studio.catalogue()); }},
     {"ramp",
      [](Studio& studio, Query const& query) { return png(studio.ramp(query.text("key"))); }},

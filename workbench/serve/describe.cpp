@@ -175,6 +175,7 @@ private:
             node["faults"].push_back(ofHost->fault().reason);
         node["isMap"] = isMap(object);
         node["isViewer"] = isViewer(object);
+        node["icon"] = !object.xpm_icon().empty();
         findProviders(object);
         node["parameters"] = Json::array();
         node["outputs"] = Json::array();
@@ -194,6 +195,7 @@ private:
         node["missing"] = true;
         node["isMap"] = node["key"].get<string>().starts_with("Colormaps/");
         node["isViewer"] = false;
+        node["icon"] = false;
         node["parameters"] = Json::array();
         node["outputs"] = Json::array();
         for (Line const& line : network_.script().lines)
