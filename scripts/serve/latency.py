@@ -1,0 +1,54 @@
+"""How long a changed value takes to the screen."""
+import statistics
+
+VALUES = 50
+AT_ONCE = 10
+
+# Sets values one after the other, each once the page has come to rest.
+CHANGES = """async (first, count) => {
+    const slider = document.querySelector('[data-parameter="zoom"] .value[data-context="Viewer1"] [type=range]');
+    const canvas = document.querySelector('canvas');
+    const wait = time => new Promise(resolve => setTimeout(resolve, time));
+    const change = () => new Promise(resolve => {
+        const observer = new MutationObserver(() => { observer.disconnect(); resolve(); });
+        observer.observe(canvas, {attributes: true, attributeFilter: ['data-revision']});
+    });
+    const painted = () => new Promise(resolve => requestAnimationFrame(() => {
+        const channel = new MessageChannel();
+        channel.port1.onmessage = resolve;
+        channel.port2.postMessage(null);
+    }));
+    const times = [];
+    performance.setResourceTimingBufferSize(5000);
+    for (let i = first; i < first + count; ++i) {
+        performance.clearResourceTimings();
+        const start = performance.now();
+        const arrived = change();
+        slider.value = 30 + i / 10;
+        slider.dispatchEvent(new Event('input', {bubbles: true}));
+        await arrived;
+        const drawn = performance.now();
+        await painted();
+        const end = performance.now();
+        await wait(120);
+        const spans = Object.fromEntries(performance.getEntriesByType('resource')
+            .map(each => [each.name.split('/').pop(), each.duration]));
+        times.push({whole: end - start, screen: end - drawn, edit: spans.edit, pixels: spans['pixels?viewer=Viewer1']});
+    }
+    return times;
+}"""
+
+
+def measure(room):
+    """A sentence with the median time from an input event to the painted picture, and
+    its parts."""
+    page = room.open()
+    page.select("Camera")
+    page.settle()
+    times = []
+    for first in range(0, VALUES, AT_ONCE):
+        times += page.evaluate(f"({CHANGES})({first}, {AT_ONCE})")
+    median = {part: statistics.median(each[part] for each in times) for part in times[0]}
+    return (f"From an input event to the painted picture of 1046 x 650: median {median['whole']:.0f} ms of {VALUES} values "
+            f"(the change {median['edit']:.0f} ms, the pixels {median['pixels']:.0f} ms, the screen {median['screen']:.0f} ms; "
+            f"the slowest {max(each['whole'] for each in times):.0f} ms).")
