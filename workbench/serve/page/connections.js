@@ -34,6 +34,7 @@ export function inputChooser(object, parameter, nothing) {
     root: element('div', {className: 'chooser'}, element('span', {className: 'soft', 'aria-hidden': 'true'}, 'from'), select),
     show(now) {
       select.selectedIndex = 1 + places.findIndex(each => now.connected && nameOf(each) === nameOf(now.connected));
+      select.title = select.value;
     },
   };
 }

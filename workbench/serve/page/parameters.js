@@ -6,6 +6,7 @@ import {makeControl} from './controls.js';
 import {byId, element, freshId, say} from './dom.js';
 import {change, isPending} from './edits.js';
 import {isPort, studio} from './studio.js';
+import {chosen} from './texts.js';
 
 /// The rows that stand, and what they were made for.
 let rows = [];
@@ -52,6 +53,7 @@ class ValueRow {
     if (!text) return;
     input.setAttribute('aria-invalid', 'true');
     input.setAttribute('aria-describedby', this.id);
+    this.reason.scrollIntoView({block: 'nearest'});
   }
 
   show(parameter) {
@@ -82,7 +84,7 @@ class ParameterRow {
     this.root = element('div', {
       className: 'parameter', role: 'group', 'aria-label': parameter.name, data: {parameter: parameter.name},
     }, element('div', {className: 'parameter-head'}, element('b', {}, parameter.name), this.facts,
-      this.linkButton, this.resetButton),
+      ...(parameter.type === 'Nothing' ? [] : [this.linkButton, this.resetButton].filter(Boolean))),
       ...this.values.map(each => each.root), this.chooser?.root ?? null);
   }
 
@@ -98,7 +100,7 @@ class ParameterRow {
 
   show(parameter) {
     const level = parameter.expert > 0 ? `, level ${parameter.expert}` : '';
-    const fallback = parameter.default === '' || parameter.default === null ? '' : `, default ${shortened(parameter.default)}`;
+    const fallback = parameter.default === '' || parameter.default === null ? '' : `, default ${parameter.choices ? chosen(parameter.default) : parameter.default}`;
     say(this.facts, `${parameter.type}${fallback}${level}`);
     this.facts.title = parameter.default ?? '';
     for (const each of this.values) each.show(parameter);
@@ -108,11 +110,6 @@ class ParameterRow {
     if (parameter.connected || this.linkButton.ariaExpanded !== 'true')
       this.chooser.root.hidden = !parameter.connected;
   }
-}
-
-/// A default as the reader needs it: of a choice the word.
-function shortened(text) {
-  return text.trim().split('{')[0] || text;
 }
 
 /// What the rows depend on; where that has changed they are made anew.

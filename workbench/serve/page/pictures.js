@@ -21,7 +21,7 @@ class Picture {
     this.reason = element('p', {className: 'reason', role: 'status'});
     this.probe = new Probe(this.name, this.canvas);
     this.root = element('figure', {data: {viewer: viewer.name}},
-      element('figcaption', {}, element('b', {}, viewer.name), this.size,
+      element('figcaption', {}, element('h2', {}, viewer.name), this.size,
         element('a', {
           className: 'button', href: address('picture.png', {viewer: viewer.name}),
           download: `${viewer.name}.png`, 'aria-label': `Save picture of ${viewer.name}`,
