@@ -273,6 +273,24 @@ def refuses(room):
     page.refused(1)
 
 
+@case("what is typed and not yet handed on stays, whatever else changes")
+def keeps_typed(room):
+    page = room.open()
+    page.select("FieldSlice")
+    field = value("transparency", "[type=text]")
+    page.write(field, "0.3")
+    page.evaluate("""fetch('edit', {method: 'POST', headers: {'Content-Type': 'application/json'},
+        body: JSON.stringify({do: 'set', object: 'FieldSlice', name: 'transparency', text: '0.9'})})""")
+    page.wait("import('./studio.js').then(({studio}) => studio.state.revision === 2)", "the page follows")
+    equal(page.value(field), "0.3", "what was typed")
+    page.press("z", "Control")
+    page.settle()
+    equal(page.parameter("FieldSlice", "transparency")["text"], "0.9", "the value, as undo is that of the field")
+    page.press("Enter")
+    page.press("Escape")
+    page.settle()
+
+
 @case("experts' parameters appear at a switch, reset leads back to the default")
 def resets(room):
     page = room.open()
@@ -311,6 +329,7 @@ def probes(room):
     page.wait(f"document.querySelectorAll('{probe} div').length >= 6", "the probe shows what it found")
     rows = dict(page.evaluate(f"[...document.querySelectorAll('{probe} div')].map(each => [...each.children].map(one => one.textContent))"))
     equal(rows["map"], MAP, "the map")
+    equal(rows["pixel"], f"{int(1046 * 0.45)}, {int(650 * 0.35)}", "the pixel under the pointer")
     looked_up = rows["value, red, green, blue, alpha"]
     equal(room.program.call("lookup", "Hypsometric", rows["scalar"]).strip().splitlines()[-1], looked_up, "the lookup")
     before = rows["pixel"]

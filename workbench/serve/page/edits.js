@@ -7,7 +7,7 @@ const waiting = new Map();
 let underWay = null;
 let running = false;
 let painted = async () => {};
-let quiet = () => {};
+const quiet = [];
 
 /// The last revision that an edit of this page has made.
 export let lastRevision = 0;
@@ -19,7 +19,7 @@ export function afterEach(work) {
 
 /// What is done once no edit is left.
 export function whenQuiet(work) {
-  quiet = work;
+  quiet.push(work);
 }
 
 /// Which edits replace each other: those that set the same value.
@@ -69,7 +69,7 @@ async function run() {
     underWay = null;
   }
   running = false;
-  quiet(lastRevision);
+  for (const each of quiet) each(lastRevision);
 }
 
 /// A word for a movement of the hand: what follows within a moment is one step of

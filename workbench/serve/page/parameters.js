@@ -4,7 +4,7 @@ import {complaintsOf, focusBox, remove} from './network.js';
 import {inputChooser, outputList} from './connections.js';
 import {makeControl} from './controls.js';
 import {byId, element, freshId, say} from './dom.js';
-import {change, isPending} from './edits.js';
+import {change, isPending, whenQuiet} from './edits.js';
 import {isPort, studio} from './studio.js';
 import {chosen} from './texts.js';
 
@@ -227,6 +227,8 @@ export function showParameters() {
     show();
     byId('node').querySelector('.scroll').scrollTop = 0;
   });
+  // A state that came while values were under way could not be shown.
+  whenQuiet(revision => studio.state?.revision >= revision && show());
   byId('show-expert').addEventListener('change', show);
   byId('node').addEventListener('keydown', event => {
     if (event.key === 'Escape') focusBox();

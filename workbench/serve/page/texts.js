@@ -34,9 +34,10 @@ export function chosen(text) {
   return text.split('{')[0];
 }
 
-/// Which flags are on. What the text leaves out is off.
+/// The words of a list of flags: those that are on have no minus, and what the text
+/// leaves out is off.
 export function flagsOn(text) {
-  return new Set(text.split(/\s+/).filter(word => word && !word.startsWith('-')));
+  return new Set(text.split(/\s+/));
 }
 
 /// A text for the names of all flags and those that are on.
