@@ -27,6 +27,9 @@ constexpr char Examples[] = R"(Examples:
 The page shows the nodes of the network, lets you turn every parameter, and draws
 what the viewers show. Nobody reaches it from another computer.)";
 
+/// Between two looks at the plug-ins' files: 0.3 s.
+constexpr int TicksForEachLook = 3;
+
 struct Arguments {
     std::filesystem::path network;
     int port = 0;
@@ -43,7 +46,7 @@ Studio::Setup setupOf(SessionOptions const& common, Arguments const& given) {
     } catch (WorkError const& error) {
         throw WorkError("the network " + inQuotes(textOf(file), 1000) + " " + error.what());
     }
-    return {.session = common, .text = text, .file = textOf(file)};
+    return {.session = common, .text = text, .file = textOf(file), .watch = given.watch};
 }
 
 void run(SessionOptions const& common, Arguments const& given) {
@@ -59,7 +62,12 @@ void run(SessionOptions const& common, Arguments const& given) {
     output.write(address + "\n");
     if (given.open && !openInBrowser(address))
         report("no browser could be opened; open the address yourself");
-    server.run(handler, [] { return !Interruption::isRequested(); });
+    int ticks = 0;
+    server.run(handler, [&] {
+        if (++ticks % TicksForEachLook == 0)
+            studio.look();
+        return !Interruption::isRequested();
+    });
     Interruption::answer();
 }
 

@@ -7,6 +7,7 @@
 #include <set>
 
 #include "runtime/lattice/Catalogue.hpp"
+#include "runtime/lattice/PluginReports.hpp"
 #include "runtime/quartz/text.hpp"
 #include "workbench/common/inQuotes.hpp"
 #include "workbench/common/nearest.hpp"
@@ -124,9 +125,93 @@ string timeNow() {
 Studio::Studio(Setup setup)
     : setup_(std::move(setup)),
       title_(textOf(pathOf(setup_.file).filename())),
-      world_(std::make_unique<World>(setup_.session, Script::read(setup_.text))),
-      plugins_(pluginFiles(setup_.session.plugins)),
-      loaded_(timeNow()) {}
+      plugins_(pluginFiles(setup_.session.plugins)) {
+    startWorld();
+    loaded_ = timeNow();
+}
+
+void Studio::startWorld() {
+    Script const script = Script::read(setup_.text);
+    SessionOptions options = setup_.session;
+    if (!setup_.watch) {
+        world_ = std::make_unique<World>(options, script);
+        return;
+    }
+    watch_ = std::make_unique<PluginWatch>(plugins_);
+    std::optional<std::vector<std::filesystem::path>> copies;
+    for (int attempt = 0; attempt < 8 && !copies; ++attempt)
+        copies = watch_->copy();
+    if (!copies)
+        throw WorkError("the plug-in is being written all the time; start again when it is built");
+    options.plugins = *copies;
+    try {
+        world_ = std::make_unique<World>(options, script);
+    } catch (PluginError const& error) {
+        throw PluginError(watch_->ofFiles(error.what()));
+    }
+    watch_->keep();
+}
+
+// --- plug-ins that change
+
+void Studio::look() {
+    if (!watch_ || !watch_->hasChanged())
+        return;
+    try {
+        reload();
+    } catch (WorkError const& error) {  // a file that cannot be read
+        error_ = error.what();
+        noteNews();
+    }
+}
+
+void Studio::reload() {
+    auto const copies = watch_->copy();
+    if (!copies) {
+        if (!error_.empty()) {  // the file in use is back
+            error_.clear();
+            noteNews();
+        }
+        return;
+    }
+    string const text = this->text();
+    std::vector<std::filesystem::path> const before = watch_->inUse();
+    if (tryWorld(*copies, text)) {
+        watch_->keep();
+        loaded_ = timeNow();
+        error_.clear();
+        ++content_;
+    } else {
+        string const reason = error_;
+        watch_->drop();
+        if (!tryWorld(before, text)) {
+            world_.reset();
+            world_ = std::make_unique<World>(Script::read(text));
+            ++content_;
+        }
+        error_ = reason;
+    }
+    catalogue_.reset();
+    ramps_.clear();
+    refresh_.reset();
+    noteNews();
+}
+
+/// Lets the present plug-ins go, and loads these. False, with the reason in `error_`,
+/// if they cannot be had.
+bool Studio::tryWorld(std::vector<std::filesystem::path> const& plugins, string const& text) {
+    SessionOptions options = setup_.session;
+    options.plugins = plugins;
+    world_.reset();
+    Orlo::takePluginReports();  // nobody else does, and they would become many
+    try {
+        world_ = std::make_unique<World>(options, Script::read(text));
+        return true;
+    } catch (std::exception const& error) {
+        error_ = watch_->ofFiles(error.what());
+        return false;
+    }
+}
 
 // --- changes
 
@@ -140,7 +225,7 @@ std::uint64_t Studio::edit(string const& text) {
     } else {
         Step const step{labelOf(change), optionalText(change, "drag"), this->text()};
         carryOut(change);
-        note(step);
+        note(step, what != "move");
     }
     return revision_;
 }
@@ -165,7 +250,7 @@ void Studio::carryOut(Json const& change) {
 
 /// Enters a step that was done, unless it changed nothing or goes on with the one
 /// before it.
-void Studio::note(Step step) {
+void Studio::note(Step step, bool pictureMayDiffer) {
     if (step.text == text())
         return;
     bool const goesOn = !step.drag.empty() && !undo_.empty() && redo_.empty() &&
@@ -175,14 +260,23 @@ void Studio::note(Step step) {
     if (undo_.size() > MaxSteps)
         undo_.erase(undo_.begin());
     redo_.clear();
-    noteChange();
+    if (pictureMayDiffer)
+        noteChange();
+    else
+        noteNews();
 }
 
+/// Pictures may be others.
 void Studio::noteChange() {
-    ++revision_;
     ++content_;
-    state_.reset();
     refresh_.reset();
+    noteNews();
+}
+
+/// The page may be another.
+void Studio::noteNews() {
+    ++revision_;
+    state_.reset();
 }
 
 void Studio::travel(std::vector<Step>& from, std::vector<Step>& to, char const* what) {
@@ -212,10 +306,13 @@ void Studio::setLiving(string const& path, string const& text) {
     bool const hadFailed = std::ranges::any_of(network().complaints(), [&](Complaint const& each) {
         Meaning const meaning = meaningOf(each.text);
         auto const* const line = std::get_if<ParameterLine>(&meaning);
-        return line != nullptr && line->object == place->object && line->name == place->name;
+        return line != nullptr && line->object == place->object && line->name == place->name &&
+               line->context == place->context;
     });
     if (hadFailed)
-        replaceNetwork(this->text());
+        rewrite([&](Script& script) {
+            writeValue(script, *place, text, parameterNames(*network().object(place->object)));
+        });
 }
 
 void Studio::reset(Json const& change) {
@@ -413,7 +510,9 @@ Refresh const& Studio::refresh() {
 Json Studio::pluginsOf() const {
     Json all = Json::array();
     for (std::filesystem::path const& file : plugins_)
-        all.push_back({{"file", textOf(file.filename())}, {"error", nullptr}, {"loaded", loaded_}});
+        all.push_back({{"file", textOf(file.filename())},
+                       {"error", error_.empty() ? Json() : Json(error_)},
+                       {"loaded", loaded_}});
     return all;
 }
 
@@ -441,7 +540,8 @@ std::shared_ptr<Image const> Studio::picture(string const& viewer) {
         throw NotThere("there is no viewer " + inQuotes(viewer) +
                        suggestion(viewer, network().viewers()));
     Drawn& drawn = drawn_[viewer];
-    if (drawn.image && drawn.content == content_)
+    bool const isPresent = drawn.content == content_ || world_->session() == nullptr;
+    if (drawn.image && isPresent)
         return drawn.image;
     Refresh const& refreshed = refresh();
     if (auto const failed = refreshed.viewers.find(viewer); failed != refreshed.viewers.end())
@@ -510,12 +610,15 @@ string Studio::ramp(string const& key) {
     constexpr int Height = 24;
     if (auto const known = ramps_.find(key); known != ramps_.end())
         return known->second;
-    bool const isThere = std::ranges::any_of(
-        world_->session().entries(),
-        [&](Orlo::WeakCreatorPtr const& entry) { return entry->keyname("/") == key; });
+    Session const* const session = world_->session();
+    bool const isThere =
+        session != nullptr &&
+        std::ranges::any_of(session->entries(), [&](Orlo::WeakCreatorPtr const& entry) {
+            return entry->keyname("/") == key;
+        });
     if (!isThere)
-        throw NotThere("the plug-in has no entry " + inQuotes(key));
-    MapObject const subject(world_->session(), key);
+        throw NotThere("no plug-in has an entry " + inQuotes(key));
+    MapObject const subject(*session, key);
     return ramps_[key] = encodePng(rampOf(sample(subject.map(), Columns), Height));
 }
 

@@ -15,6 +15,7 @@
 #include "workbench/common/errors.hpp"
 #include "workbench/picture/Image.hpp"
 #include "workbench/serve/Json.hpp"
+#include "workbench/serve/PluginWatch.hpp"
 #include "workbench/serve/World.hpp"
 #include "workbench/serve/describe.hpp"
 
@@ -45,12 +46,19 @@ public:
     /// What a person starts with.
     struct Setup {
         SessionOptions session = {};
-        std::string text;  ///< of the network
-        std::string file;  ///< where the network came from, for the command and the title
+        std::string text;    ///< of the network
+        std::string file;    ///< where the network came from, for the command and the title
+        bool watch = false;  ///< load copies of the plug-ins, and look for changes
     };
 
     /// Throws `PluginError`, and `WorkError` if the text is no network.
     explicit Studio(Setup setup);
+
+    /// Looks whether plug-ins have changed, and loads them anew; to be called now and
+    /// then. Everything of theirs is let go of, and the network is made anew of its
+    /// text. Plug-ins that do not load are told of in the state, and those before them
+    /// stay in use. Without `Setup::watch` nothing happens.
+    void look();
 
     /// Pictures are drawn up to this size.
     static constexpr int MaxPixelsASide = 4096;
@@ -109,17 +117,23 @@ private:
     void setLiving(std::string const& path, std::string const& text);
     void rewrite(std::function<void(Script&)> const& change);
     void replaceNetwork(std::string const& text);
-    void note(Step step);
+    void note(Step step, bool pictureMayDiffer);
     void noteChange();
+    void noteNews();
     Orlo::ColormapPtr mapOfObject(std::string const& object);
     Refresh const& refresh();
     Json pluginsOf() const;
+    void startWorld();
+    void reload();
+    bool tryWorld(std::vector<std::filesystem::path> const& plugins, std::string const& text);
 
     Setup setup_;
     std::string title_;
+    std::vector<std::filesystem::path> plugins_;  ///< as they were named
+    std::unique_ptr<PluginWatch> watch_;          ///< its copies outlive the world
     std::unique_ptr<World> world_;
-    std::vector<std::filesystem::path> plugins_;
-    std::string loaded_;  ///< when the plug-in was
+    std::string loaded_;  ///< when the plug-ins were
+    std::string error_;   ///< why the present plug-ins' files are not those in use
     std::uint64_t revision_ = 1;
     std::uint64_t content_ = 1;  ///< counts the changes that pictures may depend on
     std::vector<Step> undo_;

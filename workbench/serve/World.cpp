@@ -7,7 +7,9 @@
 namespace workbench {
 
 World::World(SessionOptions const& options, Script const& script)
-    : session_(options), network_(networkOf(script)) {}
+    : session_(std::in_place, options), network_(networkOf(script)) {}
+
+World::World(Script const& script) : network_(networkOf(script)) {}
 
 std::unique_ptr<Network> networkOf(Script const& script) {
     auto network = std::make_unique<Network>();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,10 +18,13 @@ class World {
 public:
     /// Throws `PluginError` if a plug-in cannot be had.
     World(SessionOptions const& options, Script const& script);
+    /// Without any plug-in.
+    explicit World(Script const& script);
     World(World const&) = delete;
     World& operator=(World const&) = delete;
 
-    Session const& session() const noexcept { return session_; }
+    /// Null if there is no plug-in.
+    Session const* session() const noexcept { return session_ ? &*session_ : nullptr; }
     Network& network() noexcept { return *network_; }
     Network const& network() const noexcept { return *network_; }
 
@@ -28,7 +32,7 @@ public:
     void replace(std::unique_ptr<Network> network) { network_ = std::move(network); }
 
 private:
-    Session session_;
+    std::optional<Session> session_;
     NodeCreators kinds_;
     std::unique_ptr<Network> network_;
 };

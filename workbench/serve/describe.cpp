@@ -103,6 +103,12 @@ bool isOfHost(Orlo::VObject const& object) {
     return dynamic_cast<HostObject const*>(&object) != nullptr;
 }
 
+/// Whether an input has a value that a person gives it.
+bool isOwnValue(Orlo::VSlot const& slot) {
+    Orlo::ValuePtr const value = slot.ownParameter()->copyOfDefault();
+    return !slot.isConnected() && value && value->setFromText(value->text());
+}
+
 /// What an input may be connected to: outputs, and of the objects that a network
 /// adds also what they are given.
 struct Provider {
@@ -118,7 +124,7 @@ public:
         for (string const& name : network.names()) {
             Orlo::ObjectPtr const object = network.object(name);
             for (Orlo::SlotPtr const& slot : object->slots())
-                if (!slot->isInput() || !isOfHost(*object))
+                if (!slot->isInput() || (!isOfHost(*object) && isOwnValue(*slot)))
                     providers_.push_back({object, slot});
         }
     }
@@ -382,13 +388,14 @@ Json entryOf(Orlo::VCreatorBase const& entry, bool isOfMap, string const& plugin
 
 }  // namespace
 
-Json catalogueOf(Session const& session) {
+Json catalogueOf(Session const* session) {
     Json all = Json::array();
     std::set<Orlo::VCreatorBase const*> ofPlugins;
-    for (Orlo::WeakCreatorPtr const& entry : session.entries()) {
+    for (Orlo::WeakCreatorPtr const& entry :
+         session != nullptr ? session->entries() : std::vector<Orlo::WeakCreatorPtr>()) {
         ofPlugins.insert(entry.get());
         all.push_back(entryOf(*entry, isMap(*create(entry)),
-                              textOf(session.pluginOf(*entry).path().filename())));
+                              textOf(session->pluginOf(*entry).path().filename())));
     }
     for (Orlo::WeakCreatorPtr const& entry : Orlo::catalogue())
         if (!ofPlugins.contains(entry.get()))

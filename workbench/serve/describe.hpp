@@ -29,7 +29,8 @@ Json complaintsOf(Network const& network);
 Json viewersOf(Network& network, Refresh const& refresh);
 Json nodesOf(Network& network, Refresh const& refresh);
 
-/// All entries that can be made: those of the plug-ins, then the host's own.
-Json catalogueOf(Session const& session);
+/// All entries that can be made: those of the plug-ins, if there are any, then the
+/// host's own.
+Json catalogueOf(Session const* session);
 
 }  // namespace workbench
