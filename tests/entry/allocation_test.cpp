@@ -8,15 +8,18 @@
 
 #include "host/creators/VSource.hpp"
 #include "runtime/lattice/Catalogue.hpp"
-#include "tests/entry/FailingAllocation.hpp"
 #include "tests/support/DiagnosticText.hpp"
 #include "tests/support/PluginTest.hpp"
 #include "tests/support/objects.hpp"
+#include "workbench/platform/FailingAllocation.hpp"
 
 namespace tests {
 namespace {
 
 using namespace Orlo;
+using workbench::Failing;
+using workbench::FailingAllocation;
+using workbench::liveAllocations;
 
 constexpr int MostPoints = 100000;
 

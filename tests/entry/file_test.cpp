@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <regex>
 
-#include "tests/support/LibraryFile.hpp"
+#include "workbench/platform/LibraryTables.hpp"
 #include "workbench/session/PluginFile.hpp"
 
 namespace tests {
@@ -18,7 +18,7 @@ using testing::IsSupersetOf;
 
 class PluginLibrary : public testing::Test {
 protected:
-    LibraryFile const library_{workbench::pluginBesideProgram()};
+    workbench::LibraryTables const library_{workbench::pluginBesideProgram()};
 
     std::vector<std::string> imports() const {
         auto names = library_.libraries;
@@ -151,7 +151,7 @@ TEST_F(PluginLibrary, IsSmallWithoutSymbolsForADebuggerAndWithItsRelocationsPack
 #endif
 
 TEST(LibraryReader, RefusesAFileThatIsNoLibrary) {
-    EXPECT_THROW(LibraryFile("no such file"), std::runtime_error);
+    EXPECT_THROW(workbench::LibraryTables("no such file"), std::runtime_error);
 }
 
 }  // namespace

@@ -16,17 +16,20 @@
 #include "tests/support/DiagnosticText.hpp"
 #include "tests/support/Process.hpp"
 #include "tests/support/RecordingSpeaker.hpp"
-#include "tests/support/mapped.hpp"
 #include "tests/support/objects.hpp"
 #include "tests/support/sanitizers.hpp"
-#include "tests/support/writtenBytes.hpp"
+#include "workbench/platform/ownProcess.hpp"
 #include "workbench/session/PluginFile.hpp"
 
 namespace tests {
 namespace {
 
 using namespace Orlo;
+using workbench::heapBytes;
+using workbench::isMapped;
+using workbench::nextThreadIndex;
 using workbench::PluginFile;
+using workbench::writtenBytes;
 
 char const PluginName[] = "prism_tinctures.telm";
 

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "workbench/common/TemporaryFolder.hpp"
+
 namespace tests {
 
 /// What a process left behind.
@@ -36,20 +38,10 @@ ProcessResult runProcess(std::filesystem::path const& program,
 std::filesystem::path programBeside(std::string const& name);
 
 /// A fresh folder that is gone with the object.
-class TemporaryFolder {
+class TemporaryFolder : public workbench::TemporaryFolder {
 public:
-    TemporaryFolder();
-    TemporaryFolder(TemporaryFolder const&) = delete;
-    TemporaryFolder& operator=(TemporaryFolder const&) = delete;
-    ~TemporaryFolder();
-
-    std::filesystem::path const& path() const noexcept { return path_; }
-    std::filesystem::path operator/(std::string const& name) const;
     /// The names of what is in it, in alphabetical order.
     std::vector<std::string> names() const;
-
-private:
-    std::filesystem::path path_;
 };
 
 }  // namespace tests

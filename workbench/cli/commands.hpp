@@ -21,5 +21,6 @@ void addLookup(CLI::App& program, SessionOptions const& common);
 void addRamp(CLI::App& program, SessionOptions const& common);
 void addRun(CLI::App& program, SessionOptions const& common);
 void addServe(CLI::App& program, SessionOptions const& common);
+void addValidate(CLI::App& program, SessionOptions const& common);
 
 }  // namespace workbench

@@ -65,7 +65,7 @@ void addCommonOptions(CLI::App& program, SessionOptions& common) {
 void addCommands(CLI::App& program, SessionOptions const& common) {
     program.require_subcommand(1);
     for (auto* const add : {addCatalogue, addColor, addDescribe, addExport, addGallery, addLookup,
-                            addRamp, addRun, addServe})
+                            addRamp, addRun, addServe, addValidate})
         add(program, common);
 }
 

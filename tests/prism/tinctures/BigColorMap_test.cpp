@@ -7,7 +7,7 @@
 #include "tests/prism/parameterRow.hpp"
 #include "tests/support/PluginTest.hpp"
 #include "tests/support/RecordingOutput.hpp"
-#include "tests/support/writtenBytes.hpp"
+#include "workbench/platform/ownProcess.hpp"
 
 namespace tests {
 namespace {
@@ -134,7 +134,7 @@ TEST_F(BigColorMap, LetsItsLineOutAtOnce) {
     Orlo::ObjectPtr const object = create("Colormaps/BigColorMap");
     testing::internal::CaptureStdout();
     update(*object, makePool());
-    std::size_t const written = writtenBytes();
+    std::size_t const written = workbench::writtenBytes();
     std::string const line = testing::internal::GetCapturedStdout();
     EXPECT_GE(written, line.size()) << "the program has not flushed it";
 }

@@ -8,13 +8,16 @@
 #include <string>
 #include <vector>
 
-namespace tests {
+namespace workbench {
 
 /// The tables of a 64-bit ELF or PE library, read from the file. Throws
 /// `std::runtime_error` for a file that is neither.
-struct LibraryFile {
-    explicit LibraryFile(std::filesystem::path const& file);
+struct LibraryTables {
+    explicit LibraryTables(std::filesystem::path const& file);
 
+    enum Format { Elf, Pe };
+
+    Format format = Elf;
     std::vector<std::string> exports;             ///< names, in the order of the table
     std::size_t exportedFunctions = 0;            ///< with those that have a number only
     std::vector<std::string> libraries;           ///< the libraries that it imports from
@@ -46,4 +49,4 @@ private:
     std::vector<PeSection> peSections_;
 };
 
-}  // namespace tests
+}  // namespace workbench

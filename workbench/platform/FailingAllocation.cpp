@@ -1,17 +1,25 @@
-#include "tests/entry/FailingAllocation.hpp"
+#include "workbench/platform/FailingAllocation.hpp"
+
+#include <malloc.h>
 
 #include <atomic>
 #include <cstdlib>
+#include <cstring>
 #include <new>
 
 namespace {
 
+constexpr int Spoil = 0xdb;
+
 std::atomic<long> live{0};
+std::atomic<bool> spoils{false};
+thread_local unsigned long asked = 0;
 thread_local int countdown = 0;  ///< 0: nothing fails
 thread_local bool failsForEver = false;
 thread_local bool failed = false;
 
 bool failsNow() noexcept {
+    ++asked;
     if (countdown == 0)
         return false;
     if (countdown > 1) {
@@ -45,6 +53,8 @@ void giveBack(void* block) noexcept {
     if (block == nullptr)
         return;
     --live;
+    if (spoils)
+        std::memset(block, Spoil, malloc_usable_size(block));
     std::free(block);
 }
 
@@ -88,7 +98,11 @@ void operator delete[](void* block, std::size_t, std::align_val_t) noexcept {
     giveBack(block);
 }
 
-namespace tests {
+namespace workbench {
+
+bool seesAllocations() {
+    return true;
+}
 
 FailingAllocation::FailingAllocation(int n, Failing mode) {
     failed = false;
@@ -108,4 +122,16 @@ long liveAllocations() {
     return live;
 }
 
-}  // namespace tests
+unsigned long allocationsOfThread() {
+    return asked;
+}
+
+SpoiledMemory::SpoiledMemory() {
+    spoils = true;
+}
+
+SpoiledMemory::~SpoiledMemory() {
+    spoils = false;
+}
+
+}  // namespace workbench

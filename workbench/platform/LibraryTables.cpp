@@ -1,4 +1,4 @@
-#include "tests/support/LibraryFile.hpp"
+#include "workbench/platform/LibraryTables.hpp"
 
 #include <cstdint>
 #include <cstring>
@@ -6,9 +6,9 @@
 #include <iterator>
 #include <stdexcept>
 
-namespace tests {
+namespace workbench {
 
-LibraryFile::LibraryFile(std::filesystem::path const& file) {
+LibraryTables::LibraryTables(std::filesystem::path const& file) {
     std::ifstream stream(file, std::ios::binary);
     bytes_.assign(std::istreambuf_iterator<char>(stream), {});
     if (bytes_.starts_with("\x7f"
@@ -21,7 +21,7 @@ LibraryFile::LibraryFile(std::filesystem::path const& file) {
 }
 
 template <class Number>
-std::size_t LibraryFile::number(std::size_t offset) const {
+std::size_t LibraryTables::number(std::size_t offset) const {
     Number value{};
     if (offset > bytes_.size() || bytes_.size() - offset < sizeof value)
         throw std::runtime_error("the library file ends too early");
@@ -29,7 +29,7 @@ std::size_t LibraryFile::number(std::size_t offset) const {
     return static_cast<std::size_t>(value);
 }
 
-std::string LibraryFile::text(std::size_t offset) const {
+std::string LibraryTables::text(std::size_t offset) const {
     std::size_t const end = bytes_.find('\0', offset);
     if (end == std::string::npos)
         throw std::runtime_error("the library file ends within a text");
@@ -38,7 +38,7 @@ std::string LibraryFile::text(std::size_t offset) const {
 
 // --- ELF
 
-void LibraryFile::readElf() {
+void LibraryTables::readElf() {
     constexpr std::size_t DynamicSection = 6, DynamicSymbols = 11, NoBits = 8, WriteFlag = 1;
     std::size_t const table = number<std::uint64_t>(0x28);
     std::size_t const width = number<std::uint16_t>(0x3a), count = number<std::uint16_t>(0x3c);
@@ -63,7 +63,7 @@ void LibraryFile::readElf() {
     }
 }
 
-void LibraryFile::readElfDynamic(std::size_t offset, std::size_t size, std::size_t names) {
+void LibraryTables::readElfDynamic(std::size_t offset, std::size_t size, std::size_t names) {
     constexpr std::size_t Needed = 1, RPath = 15, RunPath = 29;
     for (std::size_t at = offset; at < offset + size; at += 16) {
         std::size_t const tag = number<std::uint64_t>(at);
@@ -75,7 +75,7 @@ void LibraryFile::readElfDynamic(std::size_t offset, std::size_t size, std::size
     }
 }
 
-void LibraryFile::readElfSymbols(std::size_t offset, std::size_t size, std::size_t names) {
+void LibraryTables::readElfSymbols(std::size_t offset, std::size_t size, std::size_t names) {
     constexpr std::size_t UniqueBinding = 10;
     for (std::size_t at = offset; at < offset + size; at += 24) {
         std::string const name = text(names + number<std::uint32_t>(at));
@@ -93,7 +93,8 @@ void LibraryFile::readElfSymbols(std::size_t offset, std::size_t size, std::size
 
 // --- PE
 
-void LibraryFile::readPe() {
+void LibraryTables::readPe() {
+    format = Pe;
     constexpr std::size_t WriteFlag = 0x80000000;
     std::size_t const start = number<std::uint32_t>(0x3c);
     std::size_t const optional = start + 24;
@@ -116,14 +117,14 @@ void LibraryFile::readPe() {
     readPeImports(number<std::uint32_t>(optional + 120));
 }
 
-std::size_t LibraryFile::peOffset(std::size_t rva) const {
+std::size_t LibraryTables::peOffset(std::size_t rva) const {
     for (PeSection const& section : peSections_)
         if (rva >= section.rva && rva - section.rva < section.size)
             return section.offset + (rva - section.rva);
     throw std::runtime_error("the library file names a place that it does not have");
 }
 
-void LibraryFile::readPeExports(std::size_t rva) {
+void LibraryTables::readPeExports(std::size_t rva) {
     if (rva == 0)
         return;
     std::size_t const directory = peOffset(rva);
@@ -134,7 +135,7 @@ void LibraryFile::readPeExports(std::size_t rva) {
         exports.push_back(text(peOffset(number<std::uint32_t>(names + 4 * i))));
 }
 
-void LibraryFile::readPeImports(std::size_t rva) {
+void LibraryTables::readPeImports(std::size_t rva) {
     if (rva == 0)
         return;
     for (std::size_t at = peOffset(rva); number<std::uint32_t>(at + 12) != 0; at += 20) {
@@ -143,7 +144,7 @@ void LibraryFile::readPeImports(std::size_t rva) {
     }
 }
 
-void LibraryFile::readPeImportedNames(std::size_t rva) {
+void LibraryTables::readPeImportedNames(std::size_t rva) {
     constexpr std::size_t ByNumber = std::size_t{1} << 63U;
     for (std::size_t at = peOffset(rva); number<std::uint64_t>(at) != 0; at += 8) {
         std::size_t const entry = number<std::uint64_t>(at);
@@ -153,4 +154,4 @@ void LibraryFile::readPeImportedNames(std::size_t rva) {
     }
 }
 
-}  // namespace tests
+}  // namespace workbench
