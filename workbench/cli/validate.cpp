@@ -119,8 +119,8 @@ bool isFit(std::vector<Result> const& results) {
 /// "50 passed, 2 skipped; seed 7"
 std::string summary(Call const& call, std::vector<Result> const& results) {
     std::string text;
-    for (Kind const kind : {Kind::Passed, Kind::Failed, Kind::Crashed, Kind::TimedOut,
-                            Kind::Warning, Kind::Skipped})
+    for (Kind const kind :
+         {Kind::Passed, Kind::Failed, Kind::Crashed, Kind::TimedOut, Kind::Warning, Kind::Skipped})
         if (std::size_t const count = countOf(results, kind); count > 0)
             text += (text.empty() ? "" : ", ") + std::to_string(count) + " " +
                     std::string(nameOf(kind));
@@ -182,15 +182,16 @@ void run(Call call) {
 }  // namespace
 
 void addValidate(CLI::App& program, SessionOptions const&) {
-    CLI::App* const command =
-        program.add_subcommand("validate", "Judge a plug-in: put it through what a host does to it");
+    CLI::App* const command = program.add_subcommand(
+        "validate", "Judge a plug-in: put it through what a host does to it");
     auto const call = std::make_shared<Call>();
     addFile(*command, "PLUGIN", call->plugin, "The plug-in to judge");
     auto* const quick = command->add_flag("--quick", call->quick, "Take some seconds");
     command->add_flag("--soak", call->soak, "Take hours")->excludes(quick);
     command->add_option("--only", call->only, "Run this test, or this group of tests, alone")
         ->type_name("TEST");
-    command->add_option("--seed", call->seed, "The start of all random choices; a run tells its own")
+    command
+        ->add_option("--seed", call->seed, "The start of all random choices; a run tells its own")
         ->type_name("N");
     command
         ->add_option("--limit", call->limit,

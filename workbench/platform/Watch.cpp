@@ -165,4 +165,3 @@ std::vector<std::string> Watch::touched() const {
 }
 
 }  // namespace workbench
-

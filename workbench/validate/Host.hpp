@@ -40,8 +40,8 @@ void inOwnWords(std::string const& where, Work const& work) {
     try {
         work();
     } catch (Verdict const& verdict) {
-        throw Verdict{verdict.kind, verdict.kind == Kind::Skipped ? verdict.seen
-                                                                  : prefix + verdict.seen};
+        throw Verdict{verdict.kind,
+                      verdict.kind == Kind::Skipped ? verdict.seen : prefix + verdict.seen};
     } catch (std::exception const& error) {
         fail(prefix + "it throws " + inQuotes(error.what(), 300));
     } catch (...) {

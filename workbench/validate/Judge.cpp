@@ -29,7 +29,7 @@ std::vector<Test> inOrder(std::vector<Test> const& tests) {
     std::set<std::string> done;
     std::function<void(Test const&)> const add = [&](Test const& test) {
         for (Test const& other : tests)
-            if (other.name == test.needs && !done.contains(other.name))
+            if (std::ranges::count(test.needs, other.name) > 0 && !done.contains(other.name))
                 add(other);
         if (done.insert(test.name).second)
             ordered.push_back(test);
@@ -56,18 +56,19 @@ Verdict verdictOf(std::string const& text, ProcessEnd const& end, double limit) 
     if (end.how == ProcessEnd::Crashed)
         return {Kind::Crashed, "the process came to its end by " + end.reason + when};
     if (!told || end.status != 0)
-        return {Kind::Crashed,
-                "the process was ended with status " + std::to_string(end.status) + when};
+        return {Kind::Crashed, "the process was ended with status " + std::to_string(end.status) +
+                                   (told ? when : " before the test was done")};
     return {*kind, text.substr(line.size() + 1)};
 }
 
 /// Why a test can tell nothing, since the one that it needs did not pass; else empty.
 std::string obstacle(Test const& test, std::map<std::string, Kind> const& blocked) {
-    auto const found = blocked.find(test.needs);
-    if (found == blocked.end())
-        return {};
-    return "it needs " + test.needs + ", which " +
-           (isAgainst(found->second) ? "" : "was ") + std::string(nameOf(found->second));
+    for (std::string const& need : test.needs)
+        if (auto const found = blocked.find(need); found != blocked.end())
+            return "it needs " + need + ", which " +
+                   (found->second == Kind::Skipped ? "was " : "") +
+                   std::string(nameOf(found->second));
+    return {};
 }
 
 double limitOf(Test const& test, JudgeOptions const& options) {
@@ -112,8 +113,8 @@ std::vector<Result> judge(JudgeOptions const& options,
     for (Test const& test : tests) {
         begins(test, tests.size());
         std::string const reason = obstacle(test, blocked);
-        Result const result = reason.empty() ? run(test, options)
-                                             : Result{test, {Kind::Skipped, reason}, "", 0};
+        Result const result =
+            reason.empty() ? run(test, options) : Result{test, {Kind::Skipped, reason}, "", 0};
         if (!reason.empty() || isAgainst(result.verdict.kind))
             blocked[test.name] = result.verdict.kind;
         ends(result);

@@ -60,7 +60,8 @@ struct Trial {
 struct Test {
     std::string name;      ///< group and name: "file/export"
     std::string contract;  ///< what the contract says, as a sentence
-    std::string needs;     ///< the test without which this one cannot tell; may be empty
+    /// The tests without which this one cannot tell, for it would find their faults.
+    std::vector<std::string> needs;
     void (*run)(Trial& trial);
     double seconds = 45;  ///< the time limit
 };

@@ -14,8 +14,7 @@ namespace {
 using namespace Orlo;
 
 void entries(Trial& trial) {
-    withPlugin(trial,
-               [](Host&) { require(!catalogue().empty(), "it brings no entry"); });
+    withPlugin(trial, [](Host&) { require(!catalogue().empty(), "it brings no entry"); });
 }
 
 /// What is wrong with a text that stands on one line for people; empty if nothing is.
@@ -40,7 +39,8 @@ void keys(Trial& trial) {
         require(slash != std::string::npos && slash > 0, "the key names no folder");
         require(slash + 1 < key.size(), "the key names nothing in its folder");
         for (std::string const& part : {key.substr(0, slash), key.substr(slash + 1)})
-            require(part.front() != ' ' && part.back() != ' ', "a part of the key has blanks around it");
+            require(part.front() != ' ' && part.back() != ' ',
+                    "a part of the key has blanks around it");
         require(key.find("//") == std::string::npos, "a folder of the key has no name");
     });
 }
@@ -57,10 +57,10 @@ void creates(Trial& trial) {
         std::string const key = entry->keyname("/");
         ObjectPtr const object = create(findCreator(key), "one");
         require(bool(object), "it makes no object");
-        require(object->Name() == "one", "asked for an object named 'one', it makes " +
-                                             inQuotes(object->Name()));
-        require(object->type_key() == key, "its object says that it is a " +
-                                               inQuotes(object->type_key()));
+        require(object->Name() == "one",
+                "asked for an object named 'one', it makes " + inQuotes(object->Name()));
+        require(object->type_key() == key,
+                "its object says that it is a " + inQuotes(object->type_key()));
         require(entry->instances().size() == 1, "the entry does not know its object");
         require(create(entry)->Name() == entry->name(),
                 "an object without a name is not called after its entry");
@@ -109,9 +109,13 @@ void texts(Trial& trial) {
     constexpr struct {
         Key key;
         char const* what;
-    } All[] = {{Key::Category, "the category"}, {Key::Name, "the name"},
-               {Key::Description, "the description"}, {Key::Todo, "the to-do note"},
-               {Key::Tags, "the tags"}, {Key::Source, "the source"}, {Key::Date, "the date"}};
+    } All[] = {{Key::Category, "the category"},
+               {Key::Name, "the name"},
+               {Key::Description, "the description"},
+               {Key::Todo, "the to-do note"},
+               {Key::Tags, "the tags"},
+               {Key::Source, "the source"},
+               {Key::Date, "the date"}};
     withEntries(trial, [&](WeakCreatorPtr const& entry) {
         for (auto const& each : All)
             requireReadable(each.what, entry->get(each.key));
@@ -152,29 +156,41 @@ void offers(Trial& trial) {
 
 std::vector<Test> catalogueTests() {
     return {
-        {"catalogue/entries", "A plug-in brings entries for the host's catalogue.", "file/loads",
+        {"catalogue/entries",
+         "A plug-in brings entries for the host's catalogue.",
+         {"file/loads"},
          entries},
         {"catalogue/keys",
          "A key is a folder and a name, with a slash between them, readable and on one line.",
-         "file/loads", keys},
-        {"catalogue/unique", "No two entries have one key.", "file/loads", unique},
+         {"file/loads"},
+         keys},
+        {"catalogue/unique", "No two entries have one key.", {"file/loads"}, unique},
         {"catalogue/creates",
          "The entry found by its key makes an object of that key, with the name that it is given, "
          "or else that of the entry.",
-         "file/loads", creates},
-        {"catalogue/wrong-keys", "A key that is almost right finds nothing.", "file/loads",
+         {"file/loads"},
+         creates},
+        {"catalogue/wrong-keys",
+         "A key that is almost right finds nothing.",
+         {"file/loads"},
          wrongKeys},
         {"catalogue/preferences",
          "An object has the preferences that it is made with and those of its entry.",
-         "catalogue/creates", preferences},
+         {"catalogue/creates"},
+         preferences},
         {"catalogue/texts",
          "What an entry says of itself is UTF-8 on one line, and it was built against this "
          "interface.",
-         "file/loads", texts},
-        {"catalogue/help", "Help has an answer for every number, the same each time.",
-         "catalogue/creates", help},
-        {"catalogue/offers", "Entries whose objects publish maps are offered where maps are wanted.",
-         "catalogue/creates", offers},
+         {"file/loads"},
+         texts},
+        {"catalogue/help",
+         "Help has an answer for every number, the same each time.",
+         {"catalogue/creates"},
+         help},
+        {"catalogue/offers",
+         "Entries whose objects publish maps are offered where maps are wanted.",
+         {"catalogue/creates"},
+         offers},
     };
 }
 

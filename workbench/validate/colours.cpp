@@ -20,9 +20,9 @@ std::vector<double> scalarsTo(int count) {
 std::vector<double> specialScalars() {
     using Limits = std::numeric_limits<double>;
     std::vector<double> all{Limits::quiet_NaN(), Limits::infinity(), 0.0, 0.5, 1.0};
-    for (double const each : {Limits::max(), Limits::min(), Limits::denorm_min(), Limits::epsilon(),
-                              1e-300, 1e-9, 2.0, 3.5, 7.0, 255.0, 1e9, 2147483647.0, 2147483648.0,
-                              4294967296.0, 9.3e18, 1e300})
+    for (double const each :
+         {Limits::max(), Limits::min(), Limits::denorm_min(), Limits::epsilon(), 1e-300, 1e-9, 2.0,
+          3.5, 7.0, 255.0, 1e9, 2147483647.0, 2147483648.0, 4294967296.0, 9.3e18, 1e300})
         all.push_back(each);
     all.push_back(std::nextafter(0.5, 1.0));
     all.push_back(std::nextafter(1.0, 0.0));

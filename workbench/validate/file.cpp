@@ -54,8 +54,8 @@ std::vector<std::string> questionsIn(LibraryTables const& tables) {
 void exportOfAPlugin(Trial& trial) {
     LibraryTables const tables(trial.plugin);
     std::vector<std::string> const found = questionsIn(tables);
-    require(!found.empty(), "the file exports " +
-                                (tables.exports.empty() ? "nothing" : joined(tables.exports)));
+    require(!found.empty(),
+            "the file exports " + (tables.exports.empty() ? "nothing" : joined(tables.exports)));
     std::smatch parts;
     std::string const name = found.front();
     static std::regex const form("TELM_API_([0-9]{4}_[A-Z]{3}_[0-9]{2})__([A-Za-z0-9_]+)");
@@ -90,8 +90,8 @@ void imports(Trial& trial) {
             return name.find(part) != std::string::npos;
         });
     };
-    require(needs("lattice"), "it needs none of the host's libraries but " +
-                                  joined(tables.libraries));
+    require(needs("lattice"),
+            "it needs none of the host's libraries but " + joined(tables.libraries));
     require(needs("stdc++"), "it brings a C++ runtime of its own: it does not need the shared one");
     std::vector<std::string> strange;
     for (std::string const& name : tables.libraries)
@@ -121,8 +121,8 @@ void uniqueSymbols(Trial& trial) {
 void loads(Trial& trial) {
     withPlugin(trial, [](Host& host) {
         require(host.initialization().questions() == 1,
-                "its export asked the host " +
-                    counted(host.initialization().questions(), "time") + " whether it fits");
+                "its export asked the host " + counted(host.initialization().questions(), "time") +
+                    " whether it fits");
         char const* const token = host.initialization().askedToken();
         require(token != nullptr && std::string(token) == "TELM_API_VERSION",
                 "it asked about the interface " + inQuotes(token == nullptr ? "" : token));
@@ -215,8 +215,8 @@ void leavesNothing(Trial& trial) {
                                      " of the catalogue stand after the library has gone");
     require(inputCreators(typeid(ColormapPtr)).empty(),
             "it is still offered as a source of maps after it has gone");
-    require(typeCreatorCount() == 0, counted(typeCreatorCount(), "creator") +
-                                         " of value types stand after it has gone");
+    require(typeCreatorCount() == 0,
+            counted(typeCreatorCount(), "creator") + " of value types stand after it has gone");
 }
 
 void loadTime(Trial& trial) {
@@ -232,8 +232,8 @@ void loadTime(Trial& trial) {
 void startsNoThread(Trial& trial) {
     std::size_t const before = threadCount();
     withPlugin(trial, [&](Host&) {
-        require(threadCount() <= before, counted(threadCount() - before, "thread") +
-                                             " more run after loading");
+        require(threadCount() <= before,
+                counted(threadCount() - before, "thread") + " more run after loading");
     });
 }
 
@@ -314,52 +314,77 @@ void endsLoaded(Trial& trial) {
 
 std::vector<Test> fileTests() {
     return {
-        {"file/library", "A plug-in is a whole 64-bit library of the system.", "", library},
+        {"file/library", "A plug-in is a whole 64-bit library of the system.", {}, library},
         {"file/export",
          "It exports TELM_API_2024_MAR_06__NAME, where NAME is the name of its module.",
-         "file/library", exportOfAPlugin},
-        {"file/one-export", "It exports nothing else, neither by name nor by number.",
-         "file/library", oneExport},
+         {"file/library"},
+         exportOfAPlugin},
+        {"file/one-export",
+         "It exports nothing else, neither by name nor by number.",
+         {"file/library"},
+         oneExport},
         {"file/imports",
          "It needs the host's libraries and the shared C++ runtime, since exceptions and casts "
          "cross the border, and nothing that a host may not have.",
-         "file/library", imports},
-        {"file/run-paths", "It looks for libraries beside itself.", "file/library", runPaths},
+         {"file/library"},
+         imports},
+        {"file/run-paths", "It looks for libraries beside itself.", {"file/library"}, runPaths},
         {"file/unique-symbols",
-         "It has no unique symbols, which would keep it in the process for ever.", "file/library",
+         "It has no unique symbols, which would keep it in the process for ever.",
+         {"file/library"},
          uniqueSymbols},
         {"file/loads",
          "It can be loaded with all that it needs, its initialisers throw nothing, and its export "
          "asks the host once whether it fits.",
-         "file/export", loads},
-        {"file/answer", "The host's answer comes back through the export as it is, whatever it is.",
-         "file/loads", answer},
+         {"file/export"},
+         loads},
+        {"file/answer",
+         "The host's answer comes back through the export as it is, whatever it is.",
+         {"file/loads"},
+         answer},
         {"file/attach",
          "It tells the host of the attach once, with its module's name, when all its entries "
          "stand.",
-         "file/loads", attach},
-        {"file/detach", "It tells the host of the detach once, while all its entries still stand.",
-         "file/loads", detach},
-        {"file/unloads", "It is gone from the process when it is unloaded.", "file/loads", unloads},
-        {"file/loads-again", "Its initialisers run again at the next load.", "file/unloads",
+         {"file/loads"},
+         attach},
+        {"file/detach",
+         "It tells the host of the detach once, while all its entries still stand.",
+         {"file/unloads"},
+         detach},
+        {"file/unloads",
+         "It is gone from the process when it is unloaded.",
+         {"file/loads"},
+         unloads},
+        {"file/loads-again",
+         "Its initialisers run again at the next load.",
+         {"file/unloads"},
          loadsAgain},
         {"file/leaves-nothing",
-         "With it go its entries, the objects that they made, and its value types.", "file/loads",
+         "With it go its entries, the objects that they made, and its value types.",
+         {"file/unloads"},
          leavesNothing},
-        {"file/load-time", "It is loaded and unloaded within a tenth of a second.", "file/loads",
+        {"file/load-time",
+         "It is loaded and unloaded within a tenth of a second.",
+         {"file/loads"},
          loadTime},
-        {"file/no-thread", "It starts no thread while it is loaded.", "file/loads", startsNoThread},
+        {"file/no-thread",
+         "It starts no thread while it is loaded.",
+         {"file/loads"},
+         startsNoThread},
         {"file/touches-nothing",
          "While it is loaded it opens no file, and leaves the environment and the present folder "
          "alone.",
-         "file/loads", touchesNothing},
-        {"file/quiet", "It prints nothing while it is loaded and unloaded.", "file/loads", quiet},
+         {"file/loads"},
+         touchesNothing},
+        {"file/quiet", "It prints nothing while it is loaded and unloaded.", {"file/loads"}, quiet},
         {"file/second-copy",
          "A second file of it can be loaded beside it, and unloaded before or after it.",
-         "file/leaves-nothing", secondCopy},
+         {"file/leaves-nothing"},
+         secondCopy},
         {"file/process-end",
          "A process may end while it is loaded and its objects are held; it ends in order.",
-         "file/leaves-nothing", endsLoaded},
+         {"file/leaves-nothing"},
+         endsLoaded},
     };
 }
 

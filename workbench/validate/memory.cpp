@@ -119,9 +119,9 @@ struct Steps {
 std::string nameOf(Point const& point) {
     std::string text = "allocation " + std::to_string(point.n) + " fails" +
                        (point.mode == Failing::FromThen ? " and all after it" : "");
-    return point.again == 0 ? text
-                            : text + ", and then number " + std::to_string(point.again) +
-                                  " of the next try";
+    return point.again == 0
+               ? text
+               : text + ", and then number " + std::to_string(point.again) + " of the next try";
 }
 
 /// Lets every allocation of the work fail in turn, until a run meets no failure. In
@@ -148,6 +148,9 @@ void failEverywhere(bool inPairs, Steps const& steps) {
 
 /// The same, and requires that nothing is left behind.
 void failEverywhereWithoutLeak(bool inPairs, Steps const& steps) {
+    steps.prepare();  // once as usual, for what is made once and stays
+    steps.work();
+    steps.check();
     long before = 0;
     failEverywhere(inPairs, {[&] {
                                  before = liveAllocations();
@@ -158,8 +161,7 @@ void failEverywhereWithoutLeak(bool inPairs, Steps const& steps) {
                                  steps.check();
                                  // No text before the count, which would be counted.
                                  if (long const now = liveAllocations(); now != before)
-                                     fail(std::to_string(now - before) +
-                                          " blocks are left behind");
+                                     fail(std::to_string(now - before) + " blocks are left behind");
                              }});
 }
 
@@ -177,11 +179,13 @@ void failCreate(bool inPairs, Trial& trial) {
         entry->create(name, context, given);  // a warm-up
         ObjectPtr object;
         auto const work = [&] { object = entry->create(name, context, given); };
-        failEverywhereWithoutLeak(inPairs, {[] {}, work, [&] {
-                                                object = nullptr;
-                                                require(entry->instances().empty(),
-                                                        "the entry knows an object that was never made");
-                                            }});
+        failEverywhereWithoutLeak(inPairs,
+                                  {[] {}, work,
+                                   [&] {
+                                       object = nullptr;
+                                       require(entry->instances().empty(),
+                                               "the entry knows an object that was never made");
+                                   }});
     });
 }
 
@@ -205,7 +209,7 @@ struct Node {
         map = nullptr;
         object = nullptr;
         pool = nullptr;
-        colours = {};
+        Colours().swap(colours);
     }
 };
 
@@ -231,20 +235,19 @@ void failNextUpdate(bool inPairs, Trial& trial) {
     withMaps(trial, [&](WeakCreatorPtr const& entry, ObjectPtr const& first) {
         updated(*first, newPool());
         Node node;
-        failEverywhereWithoutLeak(inPairs,
-                                  {[&] {
-                                       node.object = create(entry);
-                                       node.update();
-                                   },
-                                   [&] { forceUpdate(*node.object, node.pool); },
-                                   [&] {
-                                       std::string const change =
-                                           difference(*node.map, fewScalars(), node.colours);
-                                       require(change.empty(), "of the old map " + change);
-                                       require(forceUpdate(*node.object, node.pool),
-                                               "the next update gives false");
-                                       node.letGo();
-                                   }});
+        failEverywhereWithoutLeak(inPairs, {[&] {
+                                                node.object = create(entry);
+                                                node.update();
+                                            },
+                                            [&] { forceUpdate(*node.object, node.pool); },
+                                            [&] {
+                                                std::string const change = difference(
+                                                    *node.map, fewScalars(), node.colours);
+                                                require(change.empty(), "of the old map " + change);
+                                                require(forceUpdate(*node.object, node.pool),
+                                                        "the next update gives false");
+                                                node.letGo();
+                                            }});
     });
 }
 
@@ -285,32 +288,55 @@ void failing(Trial& trial) {
 
 std::vector<Test> memoryTests() {
     return {
-        {"memory/objects", "Objects made and deleted leave nothing behind.", "cycle/objects-go",
+        {"memory/objects",
+         "Objects made and deleted leave nothing behind.",
+         {"cycle/objects-go"},
          objects},
-        {"memory/updates", "Updates leave nothing behind.", "memory/objects", updates},
-        {"memory/settings", "Changes of parameters leave nothing behind.", "memory/updates",
+        {"memory/updates", "Updates leave nothing behind.", {"memory/objects"}, updates},
+        {"memory/settings",
+         "Changes of parameters leave nothing behind.",
+         {"memory/updates"},
          settings},
-        {"memory/fail-load", "An allocation that fails while it is loaded ends the load.",
-         "file/loads", failLoad},
+        {"memory/fail-load",
+         "An allocation that fails while it is loaded ends the load.",
+         {"file/loads"},
+         failLoad},
         {"memory/fail-create",
          "An allocation that fails while an object is made passes out as std::bad_alloc, and "
          "leaves nothing behind.",
-         "memory/objects", failing<failCreate, false>, 120},
+         {"memory/objects"},
+         failing<failCreate, false>,
+         120},
         {"memory/fail-set",
          "One that fails while a parameter is set leaves an object that can be set again.",
-         "memory/updates", failing<failSet, false>, 120},
+         {"memory/updates"},
+         failing<failSet, false>,
+         120},
         {"memory/fail-update",
          "One that fails in the first update leaves an object that updates the next time.",
-         "memory/updates", failing<failFirstUpdate, false>, 120},
-        {"memory/fail-next-update", "One that fails in a later update leaves the old map right.",
-         "memory/updates", failing<failNextUpdate, false>, 120},
-        {"memory/fail-create-pairs", "The same when another one fails at the next try: making.",
-         "memory/fail-create", failing<failCreate, true>, 240},
-        {"memory/fail-update-pairs", "The same when another one fails at the next try: updating.",
-         "memory/fail-update", failing<failFirstUpdate, true>, 240},
+         {"memory/updates"},
+         failing<failFirstUpdate, false>,
+         120},
+        {"memory/fail-next-update",
+         "One that fails in a later update leaves the old map right.",
+         {"memory/updates"},
+         failing<failNextUpdate, false>,
+         120},
+        {"memory/fail-create-pairs",
+         "The same when another one fails at the next try: making.",
+         {"memory/fail-create"},
+         failing<failCreate, true>,
+         240},
+        {"memory/fail-update-pairs",
+         "The same when another one fails at the next try: updating.",
+         {"memory/fail-update"},
+         failing<failFirstUpdate, true>,
+         240},
         {"memory/fail-next-update-pairs",
          "The same when another one fails at the next try: updating again.",
-         "memory/fail-next-update", failing<failNextUpdate, true>, 240},
+         {"memory/fail-next-update"},
+         failing<failNextUpdate, true>,
+         240},
     };
 }
 

@@ -15,7 +15,8 @@ namespace {
 using namespace Orlo;
 
 /// Works with each parameter of each entry; what goes wrong is told with their names.
-void withParameters(Trial const& trial, std::function<void(VParameter const& parameter)> const& work) {
+void withParameters(Trial const& trial,
+                    std::function<void(VParameter const& parameter)> const& work) {
     withEntries(trial, [&](WeakCreatorPtr const& entry) {
         ObjectPtr const object = create(entry);
         for (SlotPtr const& slot : inputsOf(*object))
@@ -47,9 +48,10 @@ void names(Trial& trial) {
 void requireRoundTrip(VValueBase const& value, ValuePtr const& again) {
     std::string const text = value.text();
     require(isUtf8(text), "a value is written as what is no UTF-8");
-    require(again->setFromText(text), "the text of a value, " + inQuotes(text) + ", is not read back");
-    require(again->text() == text,
-            "a value is written as " + inQuotes(text) + ", and read back as " + inQuotes(again->text()));
+    require(again->setFromText(text),
+            "the text of a value, " + inQuotes(text) + ", is not read back");
+    require(again->text() == text, "a value is written as " + inQuotes(text) +
+                                       ", and read back as " + inQuotes(again->text()));
 }
 
 void defaults(Trial& trial) {
@@ -197,8 +199,9 @@ void ownPool(Trial& trial) {
             PoolPtr const one = newPool(), two = newPool();
             std::string const before = valueInPool(parameter, two, false)->text();
             setParameter(*object, slot->name(), other, one);
-            require(valueInPool(parameter, one, false)->text() != before,
-                    "parameter " + inQuotes(slot->name()) + ": a value set in one pool is not there");
+            require(
+                valueInPool(parameter, one, false)->text() != before,
+                "parameter " + inQuotes(slot->name()) + ": a value set in one pool is not there");
             require(valueInPool(parameter, two, false)->text() == before,
                     "parameter " + inQuotes(slot->name()) +
                         ": a value set in one pool is seen in another");
@@ -210,28 +213,42 @@ void ownPool(Trial& trial) {
 
 std::vector<Test> parameterTests() {
     return {
-        {"parameters/names", "The parameters of an object have readable names, each its own.",
-         "catalogue/creates", names},
-        {"parameters/defaults", "The text of a default value reads back to that value.",
-         "catalogue/creates", defaults},
-        {"parameters/round-trip", "Any value that a text means is written, and read back the same.",
-         "parameters/defaults", roundTrip},
+        {"parameters/names",
+         "The parameters of an object have readable names, each its own.",
+         {"catalogue/creates"},
+         names},
+        {"parameters/defaults",
+         "The text of a default value reads back to that value.",
+         {"catalogue/creates"},
+         defaults},
+        {"parameters/round-trip",
+         "Any value that a text means is written, and read back the same.",
+         {"parameters/defaults"},
+         roundTrip},
         {"parameters/properties",
          "The advised min and max are values of the parameter's type, and its default lies between "
          "them.",
-         "parameters/defaults", properties},
+         {"parameters/defaults"},
+         properties},
         {"parameters/wrong-texts",
          "A text that means no value leaves the old one: the empty one, a megabyte, random bytes, "
          "too much and too little.",
-         "parameters/defaults", wrongTexts},
-        {"parameters/pools", "A value that is set in one pool is seen in no other.",
-         "parameters/defaults", ownPool},
+         {"parameters/defaults"},
+         wrongTexts},
+        {"parameters/pools",
+         "A value that is set in one pool is seen in no other.",
+         {"parameters/defaults"},
+         ownPool},
         {"parameters/random-settings",
          "Whatever its parameters are set to, an object updates, and its map answers.",
-         "map/same-twice", randomSettings, 120},
+         {"map/same-twice"},
+         randomSettings,
+         120},
         {"parameters/at-the-ends",
          "That holds for the ends of what is advised, and for zero, huge numbers and NaN.",
-         "map/same-twice", atTheEnds, 120},
+         {"map/same-twice"},
+         atTheEnds,
+         120},
     };
 }
 

@@ -39,7 +39,8 @@ bool takes(VParameter const& parameter, std::string const& text) {
 /// The words that stand in braces behind the choice of an Enum.
 std::vector<std::string> choicesIn(std::string const& text) {
     std::vector<std::string> words;
-    for (std::size_t open = text.find('{'); open != std::string::npos; open = text.find('{', open + 1)) {
+    for (std::size_t open = text.find('{'); open != std::string::npos;
+         open = text.find('{', open + 1)) {
         std::size_t const close = text.find('}', open);
         if (close == std::string::npos)
             break;
@@ -103,7 +104,7 @@ std::string randomFlags(std::string const& present, Trial& trial) {
 bool isUtf8(std::string_view text) {
     for (std::size_t i = 0; i < text.size();) {
         auto const first = static_cast<unsigned char>(text[i]);
-        std::size_t const length = first < 0x80             ? 1
+        std::size_t const length = first < 0x80                    ? 1
                                    : first >= 0xc2 && first < 0xe0 ? 2
                                    : first >= 0xe0 && first < 0xf0 ? 3
                                    : first >= 0xf0 && first < 0xf5 ? 4

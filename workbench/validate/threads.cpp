@@ -175,18 +175,29 @@ void startsNone(Trial& trial) {
 
 std::vector<Test> threadTests() {
     return {
-        {"threads/starts-none", "An object starts no thread.", "cycle/publishes", startsNone},
+        {"threads/starts-none", "An object starts no thread.", {"cycle/publishes"}, startsNone},
         {"threads/readers",
-         "Any number of consumers look a map up while its object is updated.", "map/same-twice",
-         readers, 240},
-        {"threads/pools", "An object that is asked in two pools at once, beside objects of its kind, gives each "
-         "pool its own map.", "cycle/pools",
-         pools, 240},
-        {"threads/creates", "Objects may be made and deleted on two threads at once.",
-         "cycle/objects-go", creates, 240},
+         "Any number of consumers look a map up while its object is updated.",
+         {"map/same-twice"},
+         readers,
+         240},
+        {"threads/pools",
+         "An object that is asked in two pools at once, beside objects of its kind, gives each "
+         "pool its own map.",
+         {"cycle/pools"},
+         pools,
+         240},
+        {"threads/creates",
+         "Objects may be made and deleted on two threads at once.",
+         {"cycle/objects-go"},
+         creates,
+         240},
         {"threads/last-holder",
-         "The last one to hold a map may be a consumer on another thread, when the object has gone.",
-         "cycle/map-outlives-object", lastHolder, 240},
+         "The last one to hold a map may be a consumer on another thread, when the object has "
+         "gone.",
+         {"cycle/map-outlives-object"},
+         lastHolder,
+         240},
     };
 }
 

@@ -45,7 +45,8 @@ void loadCycles(Trial& trial) {
     require(heapBytes() <= most, std::to_string(heapBytes() - bytes) + " bytes" + often);
     require(nextThreadIndex() == index,
             std::to_string(nextThreadIndex() - index) + " thread-local indexes" + often);
-    require(openHandles() <= handles, std::to_string(openHandles() - handles) + " open files" + often);
+    require(openHandles() <= handles,
+            std::to_string(openHandles() - handles) + " open files" + often);
 }
 
 }  // namespace
@@ -55,7 +56,9 @@ std::vector<Test> timeTests() {
         {"time/load-cycles",
          "Loaded, used and unloaded over and over, it leaves no byte, no thread-local index and no "
          "open file behind.",
-         "memory/updates", loadCycles, 600},
+         {"memory/updates", "file/leaves-nothing"},
+         loadCycles,
+         600},
     };
 }
 
