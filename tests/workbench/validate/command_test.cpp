@@ -1,7 +1,10 @@
 /// The command itself: what it prints, and how it ends.
 #include <gmock/gmock.h>
 
+#include <sstream>
+
 #include "tests/workbench/validate/judged.hpp"
+#include "workbench/common/files.hpp"
 #include "workbench/validate/Test.hpp"
 
 namespace tests {
@@ -29,6 +32,23 @@ TEST(Validate, HasTestsWhoseNamesAreTheirOwnAndWhoseNeedsExist) {
     for (auto const& test : tests)
         for (std::string const& need : test.needs)
             EXPECT_TRUE(names.contains(need)) << test.name << " needs " << need;
+}
+
+/// The rows of the document that are about tests, in their order.
+Lines documentedRows() {
+    Lines rows;
+    std::istringstream text(workbench::readFile(PRISM_SOURCE_DIR "/docs/validate.md"));
+    for (std::string line; std::getline(text, line);)
+        if (line.starts_with("| `") && line.substr(0, line.find('`', 3)).find('/') < line.size())
+            rows.push_back(line);
+    return rows;
+}
+
+TEST(Validate, IsDocumentedTestForTest) {
+    Lines expected;
+    for (auto const& test : workbench::validate::allTests())
+        expected.push_back("| `" + test.name + "` | " + test.contract + " |");
+    EXPECT_EQ(documentedRows(), expected);
 }
 
 TEST(Validate, TellsOfAFailureWhatWasSeenWhatTheContractSaysAndHowToSeeItAgain) {
