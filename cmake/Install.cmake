@@ -17,6 +17,8 @@ endif()
 install(TARGETS prism_tinctures LIBRARY DESTINATION ${programs} COMPONENT plugin)
 
 set(libraries nucleo lattice quartz vellum)
+# The program that each test of a judged plug-in runs in.
+install(TARGETS telmbench_judge RUNTIME DESTINATION ${programs} COMPONENT host)
 install(TARGETS ${libraries} telmbench EXPORT prism_host
   RUNTIME DESTINATION ${programs} COMPONENT host
   LIBRARY DESTINATION ${programs} COMPONENT host

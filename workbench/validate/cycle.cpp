@@ -36,6 +36,11 @@ void place(VObject const& object, PoolPtr const& pool, ColormapPtr const& map) {
     }
 }
 
+/// Deletes all objects of an entry, of which this is one.
+void deleteAll(VCreatorBase const& entry, VObject const& one) {
+    entry.deleteAllInstances(typeid(one));
+}
+
 void publishes(Trial& trial) {
     withMaps(trial, [](WeakCreatorPtr const&, ObjectPtr const& object) {
         PoolPtr const pool = newPool();
@@ -142,7 +147,7 @@ void mapOutlives(Trial& trial) {
                 map = updated(*object, newPool());
                 before = coloursOf(*map, fewScalars());
                 if (byCreator)
-                    entry->deleteAllInstances(typeid(*object));
+                    deleteAll(*entry, *object);
             }
             // Where the memory of the object is not spoiled, others take it.
             std::vector<std::string> others;
@@ -160,7 +165,7 @@ void deletesAll(Trial& trial) {
         std::vector<ObjectPtr> objects;
         for (int i = 0; i < 3; ++i)
             objects.push_back(create(entry));
-        entry->deleteAllInstances(typeid(*objects.front()));
+        deleteAll(*entry, *objects.front());
         for (ObjectPtr const& object : objects)
             require(!object, "an object lives on when its creator has deleted all");
         require(entry->instances().empty(), "the entry still knows objects that it has deleted");
