@@ -106,6 +106,7 @@ class Page:
         self.address = address
         self.faults = []
         self.refusals = []  # answers 4xx of the program, which the browser takes for errors
+        self.forgiven = None  # complaints with this word are no faults
         self.requests = []
         self.downloads = pathlib.Path(tempfile.mkdtemp(dir=browser.folder))
         context = browser.call("Target.createBrowserContext")["browserContextId"]
@@ -146,6 +147,8 @@ class Page:
         elif method == "Log.entryAdded" and event["entry"]["level"] in ("error", "warning"):
             entry = event["entry"]
             text = f"{entry['text']} {entry.get('url', '')}"
+            if self.forgiven and self.forgiven in text:
+                return
             (self.refusals if "status of 4" in text else self.faults).append(text)
         elif method == "Network.requestWillBeSent":
             url = event["request"]["url"]

@@ -530,6 +530,16 @@ def tells_faults(room):
     expect("wide" in page.text("#complaints"), "the list of all remarks has it too")
 
 
+@case("a program that has ended is told of, and what was last seen stays")
+def tells_end(room):
+    page = room.open()
+    shown = page.pixels()
+    page.forgiven = "net::ERR_"  # what the browser says of a program that is gone
+    room.serving.stop()
+    page.wait("document.querySelector('#banners').textContent.includes('does not answer')", "the page tells of it")
+    equal(page.pixels(), shown, "the pixels")
+
+
 # The hand, the keyboard, the eye
 
 @case("a burst of a hundred values builds no queue: one request at a time, and the last value wins")

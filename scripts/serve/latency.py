@@ -30,7 +30,7 @@ CHANGES = """async (first, count) => {
         const drawn = performance.now();
         await painted();
         const end = performance.now();
-        await wait(120);
+        await wait(60);
         const spans = Object.fromEntries(performance.getEntriesByType('resource')
             .map(each => [each.name.split('/').pop(), each.duration]));
         times.push({whole: end - start, screen: end - drawn, edit: spans.edit, pixels: spans['pixels?viewer=Viewer1']});
