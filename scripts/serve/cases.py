@@ -650,3 +650,18 @@ def fits(room):
         if room.shots:
             page.screenshot(room.shots / f"{width}-{'dark' if dark else 'light'}.png")
         room.shut(page)
+
+
+@case("on small screens the picture stays in sight of whoever turns parameters")
+def stays_in_sight(room):
+    for width, height in [(390, 844), (1000, 700)]:
+        page = room.open(width=width, height=height)
+        page.select("Camera")
+        page.place(value("epsilon", "[type=text]", "Viewer1"))
+        top, bottom, scrolled = page.evaluate("""(() => {
+            const {top, bottom} = document.querySelector('canvas').getBoundingClientRect();
+            return [top, bottom, scrollY];
+        })()""")
+        expect(scrolled > 300, f"the page is longer than a window of {width} x {height}")
+        expect(top >= 0 and bottom <= height, f"the picture stands from {top} to {bottom} in a window of {width} x {height}")
+        room.shut(page)
