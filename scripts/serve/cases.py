@@ -2,6 +2,7 @@
 import json
 import re
 import shlex
+import struct
 
 from program import HYPSOMETRIC, pixel_hash
 from room import box, equal, expect, value
@@ -56,17 +57,21 @@ def opens(room):
     equal(page.evaluate("document.querySelectorAll('.box').length"), len(places(HYPSOMETRIC)), "boxes with the hidden ones")
 
 
+def drawn(image):
+    """An expression for what a picture element shows."""
+    return f"""(() => {{
+        const image = document.querySelector('{image}');
+        const canvas = Object.assign(document.createElement('canvas'), {{width: image.naturalWidth, height: image.naturalHeight}});
+        canvas.getContext('2d').drawImage(image, 0, 0);
+        return canvas.toDataURL();
+    }})()"""
+
+
 @case("a map wears the icon that its object draws, and another map another one")
 def wears_icon(room):
     page = room.open()
     page.wait(f"document.querySelector('{box(MAP)} .icon')?.naturalWidth > 2", "the map wears an icon")
-    draw = f"""(() => {{
-        const icon = document.querySelector('{box(MAP)} .icon');
-        const canvas = Object.assign(document.createElement('canvas'), {{width: icon.naturalWidth, height: icon.naturalHeight}});
-        const context = canvas.getContext('2d');
-        context.drawImage(icon, 0, 0);
-        return canvas.toDataURL();
-    }})()"""
+    draw = drawn(f"{box(MAP)} .icon")
     before = page.evaluate(draw)
     page.select(MAP)
     page.click('#entries [data-key="Colormaps/Muv"] .entry')
@@ -513,6 +518,52 @@ def shares(room):
     first.wait("document.querySelector('[data-parameter=orientation] select').value === 'Y'", "the first page follows")
     first.settle()
     equal(first.pixels(), second.pixels(), "the pixels of the two")
+
+
+def recolored(plugin):
+    """A plug-in as its author might build it anew: one tint is another."""
+    old = struct.pack("<4f", 0.2, 0.5, 0, 0)
+    new = struct.pack("<4f", 1, 0, 1, 0)
+    content = plugin.read_bytes()
+    expect(old in content, "the plug-in has the tint")
+    return content.replace(old, new)
+
+
+def put(file, content):
+    """As a linker does it: the new file takes the place of the old one at once."""
+    fresh = file.with_suffix(".new")
+    fresh.write_bytes(content)
+    fresh.replace(file)
+
+
+@case("a plug-in that is built anew shows its new colours by itself; one that does not load leaves all as it is")
+def follows_plugin(room):
+    built = room.program.file.parent / "prism_tinctures.telm"
+    plugin = room.program.folder / "mine.telm"
+    plugin.write_bytes(built.read_bytes())
+    room.serve(HYPSOMETRIC, "--watch", before=["--plugin", plugin])
+    page = room.open()
+    page.select("FieldSlice")
+    page.set(value("transparency", "[type=text]"), "0.5")
+    before = page.pixels()
+    ramp = drawn('#entries [data-key="Colormaps/Hypsometric"] img')
+    first_ramp = page.evaluate(ramp)
+    put(plugin, recolored(plugin))
+    page.wait("Number(document.querySelector('canvas').dataset.revision) >= 3", "the picture is drawn anew")
+    page.settle()
+    equal(page.pixels(), pixel_hash(room.picture("FieldSlice.transparency=0.5", plugin=plugin)), "the pixels")
+    expect(page.pixels() != before, "the colours are new")
+    page.wait(f"{ramp} !== {json.dumps(first_ramp)}", "the catalogue's ramp is that of the new build")
+    shown = page.pixels()
+    put(plugin, b"no library")
+    reason = page.wait("document.querySelector('#banners').textContent", "the page tells that it does not load")
+    expect("mine.telm" in reason and "no 64-bit library" in reason, f"the page says '{reason}'")
+    equal(page.pixels(), shown, "the last pixels stay")
+    expect('FieldSlice.transparency="0.5"' in page.saved(), "nothing of the network is lost")
+    put(plugin, built.read_bytes())
+    page.wait("!document.querySelector('#banners').textContent", "the next good build brings it back")
+    page.settle()
+    equal(page.pixels(), before, "the pixels of the first build")
 
 
 @case("a network that fails in parts tells each reason at its object")

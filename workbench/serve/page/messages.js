@@ -9,8 +9,8 @@ let answers = true;
 
 function banners() {
   const texts = answers ? [] : ['The program does not answer. What stands here is the last that it told; start telmbench serve again and open its new address.'];
-  for (const {file, error} of studio.state?.plugins ?? [])
-    if (error) texts.push(`${file} did not load: ${error} Its last pictures stay until it does.`);
+  for (const error of new Set(studio.state?.plugins.map(each => each.error).filter(Boolean)))
+    texts.push(`The last pictures stay, since the new build does not load: ${error}`);
   const place = byId('banners');
   if ([...place.children].map(each => each.textContent).join('\n') !== texts.join('\n'))
     place.replaceChildren(...texts.map(text => element('p', {}, text)));
