@@ -1,7 +1,11 @@
 #include "workbench/scene/render.hpp"
 
 #include <algorithm>
+#include <atomic>
+#include <exception>
+#include <mutex>
 #include <ranges>
+#include <thread>
 
 namespace workbench {
 
@@ -35,7 +39,8 @@ public:
         for (RenderablePtr const& member : shown_.scene->members)
             if (std::optional<Fragment> const fragment = seen(*member, shown_.view, ray))
                 fragments_.push_back(*fragment);
-        std::ranges::stable_sort(fragments_, std::ranges::greater(), &Fragment::depth);
+        if (fragments_.size() > 1)  // sorting allocates
+            std::ranges::stable_sort(fragments_, std::ranges::greater(), &Fragment::depth);
         Tessar::rgba_float_t color = shown_.background;
         for (Fragment const& fragment : fragments_)
             color = over(fragment, color);
@@ -47,24 +52,76 @@ private:
     std::vector<Fragment> fragments_;
 };
 
-void drawSpace(Image& image, Shown const& shown, std::function<void(double)> const& progress) {
-    constexpr int RowsForEachReport = 16;
-    Lens const lens(shown.view, image.width(), image.height());
-    Tracer tracer(shown);
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            image.at(x, y) = opaque(tracer.colorAlong(lens.through(x, y)));
-        if (progress && y % RowsForEachReport == 0)
-            progress(static_cast<double>(y) / image.height());
+/// Draws a picture on several threads. Each pixel is computed by itself, so that
+/// their number changes none.
+class Painter {
+public:
+    Painter(Image& image, Shown const& shown, std::function<void(double)> const& progress)
+        : image_(image),
+          shown_(shown),
+          progress_(progress),
+          lens_(shown.view, image.width(), image.height()) {}
+
+    void draw() {
+        std::vector<std::thread> helpers;
+        for (unsigned i = 1; i < threadCount(); ++i)
+            helpers.emplace_back([this] { drawBands(false); });
+        drawBands(true);
+        for (std::thread& helper : helpers)
+            helper.join();
+        if (failure_)
+            std::rethrow_exception(failure_);
     }
-}
+
+private:
+    static constexpr int RowsOfABand = 16;
+    static constexpr int LeastPixelsOfAThread = 32768;  ///< one is made in the time of fewer
+    static constexpr unsigned MaxThreads = 16;
+
+    unsigned threadCount() const {
+        std::size_t const worth = image_.pixels().size() / LeastPixelsOfAThread;
+        std::size_t const most = std::clamp(std::thread::hardware_concurrency(), 1U, MaxThreads);
+        return static_cast<unsigned>(std::clamp<std::size_t>(worth, 1, most));
+    }
+
+    /// Takes bands until none is left. What is thrown ends the drawing on all threads.
+    void drawBands(bool reports) noexcept {
+        try {
+            Tracer tracer(shown_);
+            for (int top = 0; (top = next_.fetch_add(RowsOfABand)) < image_.height();) {
+                drawBand(tracer, top);
+                if (reports && progress_)
+                    progress_(static_cast<double>(top) / image_.height());
+            }
+        } catch (...) {
+            std::scoped_lock const lock(mutex_);
+            failure_ = std::current_exception();
+            next_ = image_.height();
+        }
+    }
+
+    void drawBand(Tracer& tracer, int top) {
+        int const bottom = std::min(top + RowsOfABand, image_.height());
+        for (int y = top; y < bottom; ++y)
+            for (int x = 0; x < image_.width(); ++x)
+                image_.at(x, y) = opaque(tracer.colorAlong(lens_.through(x, y)));
+    }
+
+    Image& image_;
+    Shown const& shown_;
+    std::function<void(double)> const& progress_;
+    Lens lens_;
+    std::atomic<int> next_ = 0;
+    std::mutex mutex_;  ///< guards `failure_`
+    std::exception_ptr failure_;
+};
 
 }  // namespace
 
 Image render(Shown const& shown, std::function<void(double)> const& progress) {
     Image image(shown.width, shown.height, opaque(shown.background));
     if (shown.scene) {
-        drawSpace(image, shown, progress);
+        Painter(image, shown, progress).draw();
         for (RenderablePtr const& member : shown.scene->members)
             member->drawOver(image);
     }

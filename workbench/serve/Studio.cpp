@@ -547,6 +547,7 @@ std::shared_ptr<Image const> Studio::picture(string const& viewer) {
     if (auto const failed = refreshed.viewers.find(viewer); failed != refreshed.viewers.end())
         throw WorkError(failed->second);
     drawn = {content_, std::make_shared<Image const>(render(*object, network().pool(viewer)))};
+    Orlo::takePluginReports();  // of threads that drew, on Windows; they would become many
     return drawn.image;
 }
 
