@@ -4,7 +4,6 @@
 #include <atomic>
 #include <exception>
 #include <mutex>
-#include <ranges>
 #include <thread>
 
 namespace workbench {
@@ -133,13 +132,14 @@ Image render(Shown const& shown, std::function<void(double)> const& progress) {
 std::optional<Reading> readPixel(Shown const& shown, Image const& picture, int x, int y) {
     if (!shown.scene || !picture.contains(x, y))
         return std::nullopt;
-    for (RenderablePtr const& member : shown.scene->members | std::views::reverse)
-        if (std::optional<Reading> const reading = member->readOver(picture, x, y))
+    std::vector<RenderablePtr> const& members = shown.scene->members;
+    for (auto member = members.rbegin(); member != members.rend(); ++member)
+        if (std::optional<Reading> const reading = (*member)->readOver(picture, x, y))
             return reading;
     Ray const ray = Lens(shown.view, picture.width(), picture.height()).through(x, y);
     std::optional<Reading> nearest;
     double depth = shown.view.maxDepth;
-    for (RenderablePtr const& member : shown.scene->members)
+    for (RenderablePtr const& member : members)
         if (std::optional<Fragment> const fragment = seen(*member, shown.view, ray))
             if (fragment->opacity > 0 && fragment->depth <= depth) {
                 nearest = member->read(ray);
