@@ -2,11 +2,11 @@
 #include <fstream>
 
 #include "tests/support/Process.hpp"
-#include "tests/support/mapped.hpp"
 #include "tests/support/sanitizers.hpp"
 #include "tests/workbench/serve/StudioTest.hpp"
 #include "workbench/common/files.hpp"
 #include "workbench/common/paths.hpp"
+#include "workbench/platform/ownProcess.hpp"
 #include "workbench/session/PluginFile.hpp"
 
 namespace workbench {
@@ -172,19 +172,19 @@ TEST_F(Watching, OverAndOverLeavesNothingBehind) {
     };
     for (std::size_t i = 0; i < WarmUp + Reloads; ++i) {
         if (i == WarmUp) {
-            before = tests::heapBytes();
-            threadIndex = tests::nextThreadIndex();
+            before = heapBytes();
+            threadIndex = nextThreadIndex();
         }
         turn(i);
     }
-    std::size_t const after = tests::heapBytes();
+    std::size_t const after = heapBytes();
     std::printf("%zu reloads: heap %+lld bytes\n", Reloads,
                 static_cast<long long>(after) - static_cast<long long>(before));
     EXPECT_LT(after, before + 16 * Reloads) << "the smallest block has 32 bytes";
-    EXPECT_EQ(tests::nextThreadIndex(), threadIndex);
-    EXPECT_TRUE(tests::isMapped(Name));
+    EXPECT_EQ(nextThreadIndex(), threadIndex);
+    EXPECT_TRUE(isMapped(Name));
     studio_.reset();
-    EXPECT_FALSE(tests::isMapped(Name));
+    EXPECT_FALSE(isMapped(Name));
 }
 
 }  // namespace
