@@ -50,6 +50,7 @@ class Browser:
         self.rest = b""
         self.count = 0
         self.pages = {}  # by session
+        self.saved = 0  # files, by the end of their download
         self.call("Browser.grantPermissions", permissions=["clipboardReadWrite", "clipboardSanitizedWrite"])
 
     def close(self):
@@ -93,6 +94,8 @@ class Browser:
         message = json.loads(text)
         if "method" in message and message.get("sessionId") in self.pages:
             self.pages[message["sessionId"]].hear(message["method"], message["params"])
+        elif message.get("method") == "Browser.downloadProgress":
+            self.saved += message["params"]["state"] == "completed"
         return message
 
     def open(self, address, width=1400, height=900, dark=False):
@@ -112,7 +115,7 @@ class Page:
         context = browser.call("Target.createBrowserContext")["browserContextId"]
         self.context = context
         browser.call("Browser.setDownloadBehavior", behavior="allow", browserContextId=context,
-                     downloadPath=str(self.downloads))
+                     downloadPath=str(self.downloads), eventsEnabled=True)
         browser.call("Browser.grantPermissions", browserContextId=context,
                      permissions=["clipboardReadWrite", "clipboardSanitizedWrite"])
         self.target = browser.call("Target.createTarget", url="about:blank", browserContextId=context,
@@ -249,16 +252,16 @@ class Page:
 
     def download(self, selector):
         """The bytes of what a click on a link saves."""
+        before = self.browser.saved
         self.click(selector)
         end = time.monotonic() + PATIENCE
-        while time.monotonic() < end:
-            for file in self.downloads.iterdir():
-                if not file.name.endswith(".crdownload"):
-                    content = file.read_bytes()
-                    file.unlink()
-                    return content
-            self.browser.receive(time.monotonic() + 0.05)
-        raise Trouble(f"a click on {selector} saved nothing")
+        while self.browser.saved == before:
+            if self.browser.receive(end) is None:
+                raise Trouble(f"a click on {selector} saved nothing")
+        file, = self.downloads.iterdir()
+        content = file.read_bytes()
+        file.unlink()
+        return content
 
     def screenshot(self, file, whole=False):
         data = self.call("Page.captureScreenshot", format="png", captureBeyondViewport=whole)["data"]

@@ -103,7 +103,7 @@ def walks(room):
         equal(page.text(".node-name b"), expected, f"the object after {key}")
     seen = set()
     page.press("Home")
-    for _ in range(40):
+    for _ in range(page.evaluate("document.querySelectorAll('.box').length")):
         seen.add(page.evaluate("document.activeElement.dataset.name"))
         page.press("PageDown")
     equal(seen, {name for name, each in places(HYPSOMETRIC).items() if each["status"] != "hidden"}, "objects passed")
@@ -284,8 +284,7 @@ def keeps_typed(room):
     page.select("FieldSlice")
     field = value("transparency", "[type=text]")
     page.write(field, "0.3")
-    page.evaluate("""fetch('edit', {method: 'POST', headers: {'Content-Type': 'application/json'},
-        body: JSON.stringify({do: 'set', object: 'FieldSlice', name: 'transparency', text: '0.9'})})""")
+    room.serving.edit({"do": "set", "object": "FieldSlice", "name": "transparency", "text": "0.9"})
     page.wait("import('./studio.js').then(({studio}) => studio.state.revision === 2)", "the page follows")
     equal(page.value(field), "0.3", "what was typed")
     page.press("z", "Control")
@@ -309,6 +308,17 @@ def resets(room):
     page.toggle('[aria-label="Reset options"]')
     expect(page.pixels() != changed, "the reset shows in the picture")
     equal(page.parameter(MAP, "options")["text"], page.parameter(MAP, "options")["default"], "the text after the reset")
+
+
+@case("an object of a higher level shows its experts' parameters without the switch")
+def heeds_level(room):
+    network = room.program.folder / "expert.telm"
+    network.write_text(HYPSOMETRIC.read_text().replace(f'{MAP}.qTelm::Net::ExpertLevel="0"', f'{MAP}.qTelm::Net::ExpertLevel="1"'))
+    room.serve(network)
+    page = room.open()
+    page.select(MAP)
+    equal(page.evaluate("[...document.querySelectorAll('[data-parameter]')].map(each => each.dataset.parameter)"), ["options"],
+          "the parameters")
 
 
 @case("a viewer is given a value of its own, and the other one keeps its picture")
@@ -403,6 +413,8 @@ def connects(room):
     added = page.text(".node-name b")
     equal(page.node(added)["key"], "Colormaps/Glow", "what was added")
     equal(page.pixels(), before, "the pixels, as nobody reads it yet")
+    options = page.evaluate("[...document.querySelector('[aria-label=\"Connect colormap to\"]').options].map(each => each.textContent)")
+    equal(options[1:], ["WebTelm.framebuffer", "FieldSlice.colormap", f"{LEGEND}.colormap"], "what may read the new map")
     page.take('[aria-label="Connect colormap to"]', "FieldSlice.colormap")
     equal(page.parameter("FieldSlice", "colormap")["connected"]["object"], added, "what the slice reads")
     expect(page.pixels() != before, "the new colours are seen")
@@ -586,8 +598,15 @@ def tells_end(room):
     page = room.open()
     shown = page.pixels()
     page.forgiven = "net::ERR_"  # what the browser says of a program that is gone
+    told = "document.querySelector('#banners').textContent.includes('does not answer')"
+    line = {"latency": 0, "downloadThroughput": -1, "uploadThroughput": -1}
+    page.call("Network.emulateNetworkConditions", offline=True, **line)
+    room.serving.edit({"do": "move", "object": "theGrid", "x": 120, "y": 226})  # answers who waits
+    page.wait(told, "the page tells that nobody answers")
+    page.call("Network.emulateNetworkConditions", offline=False, **line)
+    page.wait(f"!{told}", "the page tells no more, once somebody answers")
     room.serving.stop()
-    page.wait("document.querySelector('#banners').textContent.includes('does not answer')", "the page tells of it")
+    page.wait(told, "the page tells that the program has ended")
     equal(page.pixels(), shown, "the pixels")
 
 

@@ -1,9 +1,11 @@
 """The program as a person starts it."""
 import hashlib
 import io
+import json
 import pathlib
 import signal
 import subprocess
+import urllib.request
 
 from PIL import Image
 
@@ -66,6 +68,11 @@ class Serving:
     def said(self):
         self.log.seek(0)
         return self.log.read()
+
+    def edit(self, change):
+        """A change that no page makes."""
+        urllib.request.urlopen(urllib.request.Request(
+            self.address + "edit", json.dumps(change).encode(), {"Content-Type": "application/json"})).close()
 
     def stop(self):
         """Ends it as Ctrl-C does."""

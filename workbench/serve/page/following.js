@@ -24,14 +24,18 @@ function visible() {
 
 /// Never ends. Tells `heard` whether the program answers.
 export async function follow(heard) {
+  let answers = false;
   for (;;) {
     await visible();
     await quiet();
     try {
-      const state = await stateAfter(studio.state?.revision ?? null);
+      // Whoever did not answer is asked for what there is, not for what comes.
+      const state = await stateAfter(answers ? studio.state.revision : null);
+      answers = true;
       heard(true);
       if (state && state.revision >= lastRevision) studio.accept(state);
     } catch {
+      answers = false;
       heard(false);
       await wait(Pause);
     }

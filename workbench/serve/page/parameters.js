@@ -114,10 +114,15 @@ class ParameterRow {
 
 /// What the rows depend on; where that has changed they are made anew.
 function shapeOf(node, withExperts) {
-  return JSON.stringify([node.name, node.key, withExperts, studio.state.viewers.map(each => each.name),
+  return JSON.stringify([node.name, node.key, node.expertLevel, withExperts, studio.state.viewers.map(each => each.name),
     node.parameters.map(each => [each.name, each.type, each.min, each.max, Object.keys(each.contexts ?? {}),
       each.choices, each.flags?.map(flag => flag.name), each.candidates, isPort(each)]),
     node.outputs, consumersOf(node)]);
+}
+
+/// Whether a parameter is above the level that the network stores for its object.
+function isForExperts(parameter, node) {
+  return parameter.expert > node.expertLevel;
 }
 
 function consumersOf(node) {
@@ -163,7 +168,7 @@ function build(node, withExperts) {
   const focused = focusPlace();
   const inputs = node.parameters.filter(isPort);
   const values = node.parameters.filter(each => !isPort(each));
-  const usual = values.filter(each => withExperts || each.expert === 0);
+  const usual = values.filter(each => withExperts || !isForExperts(each, node));
   rows = usual.map(each => new ParameterRow(node.name, each));
   const choosers = inputs.map(each => ({parameter: each.name, ...portRow(node.name, each)}));
   byId('inputs').replaceChildren(...section('Reads', choosers.map(each => each.root)));
@@ -208,7 +213,7 @@ function show() {
     for (const id of ['node-facts', 'inputs', 'parameters', 'outputs']) byId(id).replaceChildren();
     return;
   }
-  const experts = node.parameters.filter(each => !isPort(each) && each.expert > 0).length;
+  const experts = node.parameters.filter(each => !isPort(each) && isForExperts(each, node)).length;
   say(byId('expert-count'), experts === 1 ? '1 expert parameter' : `${experts} expert parameters`);
   byId('show-expert').parentElement.classList.toggle('none', experts === 0);
   const focused = focusPlace();
