@@ -108,7 +108,7 @@ std::vector<Need> const Needs {
          "strncmp|"
          "vfprintf|wcslen|pthread_mutex_init"},
 #else
-        {"the loader", "_ITM_.*|__gmon_start__"},
+        {"the loader", "_ITM_.*|__gmon_start__"}, {"hardening", "__stack_chk_fail|__[a-z]+_chk"},
         {"sanitizers", "__(asan|ubsan|tsan|lsan|sanitizer|sancov)_.*"},
 #endif
 };
@@ -148,6 +148,48 @@ TEST_F(PluginLibrary, IsSmallWithoutSymbolsForADebuggerAndWithItsRelocationsPack
     EXPECT_THAT(names, testing::Not(testing::Contains(".symtab")));
     EXPECT_LT(std::filesystem::file_size(workbench::pluginBesideProgram()), 640'000U);
 }
+#endif
+
+/// All that is delivered, where it is built.
+std::vector<std::string> const Delivered {
+#if defined(_WIN32)
+    "telmbench.exe", "nucleo.dll", "lattice.dll", "quartz.dll", "vellum.dll",
+#else
+    "telmbench", "libnucleo.so", "liblattice.so", "libquartz.so", "libvellum.so",
+#endif
+        "prism_tinctures.telm"
+};
+
+class Hardening : public testing::TestWithParam<std::string> {
+protected:
+    workbench::LibraryTables const file_{
+        workbench::pluginBesideProgram().replace_filename(GetParam())};
+};
+
+#if defined(_WIN32)
+TEST_P(Hardening, LetsWindowsPlaceItAnywhereAndRunsNoData) {
+    EXPECT_THAT(file_.protections,
+                ElementsAre("any address", "data without code", "large addresses"));
+}
+#elif defined(NDEBUG)
+TEST_P(Hardening, IsPlacedAnywhereBoundAtOnceWithReadOnlyTablesAndAStackWithoutCode) {
+    EXPECT_THAT(file_.protections, ElementsAre("any address", "bound at once", "stack without code",
+                                               "tables read-only"));
+}
+
+TEST_P(Hardening, WatchesItsStack) {
+    EXPECT_THAT(file_.imports, testing::Contains("__stack_chk_fail"));
+}
+#endif
+
+#if defined(_WIN32) || defined(NDEBUG)
+INSTANTIATE_TEST_SUITE_P(Delivered, Hardening, testing::ValuesIn(Delivered), [](auto const& each) {
+    std::string name = each.param;
+    std::erase_if(name, [](unsigned char c) { return std::isalnum(c) == 0; });
+    return name;
+});
+#else
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Hardening);
 #endif
 
 TEST(LibraryReader, RefusesAFileThatIsNoLibrary) {

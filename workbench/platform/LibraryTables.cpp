@@ -40,6 +40,7 @@ std::string LibraryTables::text(std::size_t offset) const {
 
 void LibraryTables::readElf() {
     constexpr std::size_t DynamicSection = 6, DynamicSymbols = 11, NoBits = 8, WriteFlag = 1;
+    readElfSegments();
     std::size_t const table = number<std::uint64_t>(0x28);
     std::size_t const width = number<std::uint16_t>(0x3a), count = number<std::uint16_t>(0x3c);
     auto const header = [&](std::size_t index) { return table + index * width; };
@@ -63,13 +64,32 @@ void LibraryTables::readElf() {
     }
 }
 
+void LibraryTables::readElfSegments() {
+    constexpr std::size_t SharedObject = 3, Stack = 0x6474e551, ReadOnlyLater = 0x6474e552,
+                          Code = 1;
+    if (number<std::uint16_t>(0x10) == SharedObject)
+        protections.insert("any address");
+    std::size_t const table = number<std::uint64_t>(0x20);
+    std::size_t const width = number<std::uint16_t>(0x36), count = number<std::uint16_t>(0x38);
+    for (std::size_t i = 0; i < count; ++i) {
+        std::size_t const type = number<std::uint32_t>(table + i * width);
+        std::size_t const flags = number<std::uint32_t>(table + i * width + 4);
+        if (type == Stack && (flags & Code) == 0)
+            protections.insert("stack without code");
+        if (type == ReadOnlyLater)
+            protections.insert("tables read-only");
+    }
+}
+
 void LibraryTables::readElfDynamic(std::size_t offset, std::size_t size, std::size_t names) {
-    constexpr std::size_t Needed = 1, RPath = 15, RunPath = 29;
+    constexpr std::size_t Needed = 1, RPath = 15, RunPath = 29, Flags = 30, Now = 8;
     for (std::size_t at = offset; at < offset + size; at += 16) {
         std::size_t const tag = number<std::uint64_t>(at);
         std::size_t const value = number<std::uint64_t>(at + 8);
         if (tag == Needed)
             libraries.push_back(text(names + value));
+        if (tag == Flags && (value & Now) != 0)
+            protections.insert("bound at once");
         if (tag == RPath || tag == RunPath)
             runPaths.push_back(text(names + value));
     }
@@ -100,6 +120,13 @@ void LibraryTables::readPe() {
     std::size_t const optional = start + 24;
     if (text(start) != "PE" || number<std::uint16_t>(optional) != 0x20b)
         throw std::runtime_error("the file is no 64-bit Windows library");
+    std::size_t const protection = number<std::uint16_t>(optional + 70);
+    if ((protection & 0x20U) != 0)
+        protections.insert("large addresses");
+    if ((protection & 0x40U) != 0)
+        protections.insert("any address");
+    if ((protection & 0x100U) != 0)
+        protections.insert("data without code");
     std::size_t const count = number<std::uint16_t>(start + 6);
     std::size_t const table = optional + number<std::uint16_t>(start + 20);
     for (std::size_t i = 0; i < count; ++i) {

@@ -1,4 +1,4 @@
-/// What the file of a shared library says about itself.
+/// What the file of a library or a program says about itself.
 #pragma once
 
 #include <cstddef>
@@ -10,7 +10,7 @@
 
 namespace workbench {
 
-/// The tables of a 64-bit ELF or PE library, read from the file. Throws
+/// The tables of a 64-bit ELF or PE file, read from the file. Throws
 /// `std::runtime_error` for a file that is neither.
 struct LibraryTables {
     explicit LibraryTables(std::filesystem::path const& file);
@@ -26,9 +26,13 @@ struct LibraryTables {
     std::vector<std::string> uniqueSymbols;       ///< names that would keep it loaded (ELF)
     std::map<std::string, std::string> sections;  ///< contents by name
     std::set<std::string> writable;               ///< the names of those that may be written to
+    /// What protects the process, of "stack without code", "tables read-only" and "bound at
+    /// once" (ELF); "data without code" and "large addresses" (PE); "any address".
+    std::set<std::string> protections;
 
 private:
     void readElf();
+    void readElfSegments();
     void readElfDynamic(std::size_t offset, std::size_t size, std::size_t names);
     void readElfSymbols(std::size_t offset, std::size_t size, std::size_t names);
     void readPe();
