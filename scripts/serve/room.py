@@ -58,9 +58,11 @@ class Room:
         """Ends all. What the browser complained of is a fault, and a refusal that no
         case expected."""
         faults = self.faults + [fault for page in self.pages for fault in page.faults + page.refusals]
-        for page in self.pages:
-            page.close()
-        status = self.serving.stop() if self.serving else 0
+        try:
+            for page in self.pages:
+                page.close()
+        finally:
+            status = self.serving.stop() if self.serving else 0
         expect(not faults, "; ".join(faults))
         equal(status, 0, "the status at Ctrl-C")
 
