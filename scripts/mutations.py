@@ -172,8 +172,15 @@ def constant(source, start, end, text, what="constant"):
     edit = start, end, lambda n: f"mutant::pick({n}, {source[start:end]}, {text})"
     line = source[source.rfind("\n", 0, start) + 1:start]
     compiler_needs_it = (source[start - 1:start] == "<" or source[end:end + 1] == ">"
-                         or source[:start].endswith("case ") or "[[" in line or "static constexpr" in line)
+                         or source[:start].endswith("case ") or "[[" in line
+                         or is_compile_time(line))
     return Change(start, end, what, text, () if compiler_needs_it else (edit,))
+
+
+def is_compile_time(line):
+    """Whether the line defines a constant that is worked out before any change can be
+    switched on."""
+    return "static constexpr" in line or "inline constexpr" in line
 
 
 def table_rows(tokens):
@@ -218,7 +225,9 @@ def operator_changes(source, tokens, i):
         if between_blanks and token.text in known:
             other, pattern, name = known[token.text]
             edit = token.start, token.end, lambda n: pattern.format(f"mutant::{name}({n})")
-            return [Change(token.start, token.end, kind, other, (edit,) if name else ())]
+            line = source[source.rfind("\n", 0, token.start) + 1:token.start]
+            edits = (edit,) if name and not is_compile_time(line) else ()
+            return [Change(token.start, token.end, kind, other, edits)]
     if token.text in STEPS:
         return [Change(token.start, token.end, "operator", STEPS[token.text])]
     if token.text == "!":
