@@ -84,6 +84,8 @@ std::string asText(Call const& call, Result const& result) {
         name.resize(std::max(NameWidth, name.size()), ' ');
         name += secondsText(result.seconds);
     }
+    if (result.verdict.kind == Kind::Passed && !result.verdict.seen.empty())
+        name += "   " + printable(result.verdict.seen);
     std::string text = kind + name + "\n";
     if (result.verdict.kind == Kind::Passed)
         return text;

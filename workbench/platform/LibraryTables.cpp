@@ -36,6 +36,12 @@ std::string LibraryTables::text(std::size_t offset) const {
     return bytes_.substr(offset, end - offset);
 }
 
+std::string LibraryTables::bytes(std::size_t offset, std::size_t size) const {
+    if (offset > bytes_.size())
+        throw std::runtime_error("the library file ends too early");
+    return bytes_.substr(offset, size);
+}
+
 // --- ELF
 
 void LibraryTables::readElf() {
@@ -54,7 +60,7 @@ void LibraryTables::readElf() {
         std::size_t const texts = offsetOf(number<std::uint32_t>(header(i) + 0x28));
         std::string const name = text(names + number<std::uint32_t>(header(i)));
         if (type != NoBits)
-            sections[name] = bytes_.substr(offsetOf(i), size);
+            sections[name] = bytes(offsetOf(i), size);
         if ((number<std::uint64_t>(header(i) + 8) & WriteFlag) != 0)
             writable.insert(name);
         if (type == DynamicSection)
@@ -131,12 +137,12 @@ void LibraryTables::readPe() {
     std::size_t const table = optional + number<std::uint16_t>(start + 20);
     for (std::size_t i = 0; i < count; ++i) {
         std::size_t const header = table + 40 * i;
-        std::string const name(bytes_.substr(header, 8).c_str());
+        std::string const name(bytes(header, 8).c_str());
         PeSection const section{number<std::uint32_t>(header + 12),
                                 number<std::uint32_t>(header + 16),
                                 number<std::uint32_t>(header + 20)};
         peSections_.push_back(section);
-        sections[name] = bytes_.substr(section.offset, section.size);
+        sections[name] = bytes(section.offset, section.size);
         if ((number<std::uint32_t>(header + 36) & WriteFlag) != 0)
             writable.insert(name);
     }

@@ -44,6 +44,7 @@ private:
     template <class Number>
     std::size_t number(std::size_t offset) const;
     std::string text(std::size_t offset) const;
+    std::string bytes(std::size_t offset, std::size_t size) const;
 
     struct PeSection {
         std::size_t rva, size, offset;

@@ -74,7 +74,7 @@ std::vector<Test> testsOf(std::string const& name) {
 Verdict runTest(Test const& test, Trial& trial) {
     try {
         test.run(trial);
-        return {Kind::Passed, ""};
+        return {Kind::Passed, trial.told};
     } catch (Verdict const& verdict) {
         return verdict;
     } catch (std::exception const& error) {

@@ -23,7 +23,7 @@ enum class Kind {
 /// "passed", "timed out", ...
 std::string_view nameOf(Kind kind);
 
-/// What a test that does not simply pass has seen.
+/// How a test ended, and what it has seen or, if it passed, what it has to tell.
 struct Verdict {
     Kind kind;
     std::string seen;
@@ -49,6 +49,7 @@ struct Trial {
     Depth depth = Depth::Normal;
     std::uint64_t seed = 1;
     std::mt19937_64 random{seed};
+    std::string told = {};  ///< what a test that passes has to tell: counts, growth
 
     /// One of three numbers, by the depth.
     int times(int quick, int normal, int soak) const;

@@ -125,9 +125,11 @@ std::string nameOf(Point const& point) {
 }
 
 /// Lets every allocation of the work fail in turn, until a run meets no failure. In
-/// pairs, one of the first allocations of the next try fails too.
-void failEverywhere(bool inPairs, Steps const& steps) {
+/// pairs, one of the first allocations of the next try fails too. Gives the number of
+/// runs that met a failure.
+int failEverywhere(bool inPairs, Steps const& steps) {
     int const mostAgain = inPairs ? 3 : 0;
+    int points = 0;
     for (Failing const mode : {Failing::Once, Failing::FromThen})
         for (int again = inPairs ? 1 : 0; again <= mostAgain; ++again)
             for (int n = 1;; ++n) {
@@ -143,26 +145,29 @@ void failEverywhere(bool inPairs, Steps const& steps) {
                 });
                 if (!failed)
                     break;
+                ++points;
             }
+    return points;
 }
 
 /// The same, and requires that nothing is left behind.
-void failEverywhereWithoutLeak(bool inPairs, Steps const& steps) {
+int failEverywhereWithoutLeak(bool inPairs, Steps const& steps) {
     steps.prepare();  // once as usual, for what is made once and stays
     steps.work();
     steps.check();
     long before = 0;
-    failEverywhere(inPairs, {[&] {
-                                 before = liveAllocations();
-                                 steps.prepare();
-                             },
-                             steps.work,
-                             [&] {
-                                 steps.check();
-                                 // No text before the count, which would be counted.
-                                 if (long const now = liveAllocations(); now != before)
-                                     fail(std::to_string(now - before) + " blocks are left behind");
-                             }});
+    return failEverywhere(inPairs,
+                          {[&] {
+                               before = liveAllocations();
+                               steps.prepare();
+                           },
+                           steps.work,
+                           [&] {
+                               steps.check();
+                               // No text before the count, which would be counted.
+                               if (long const now = liveAllocations(); now != before)
+                                   fail(std::to_string(now - before) + " blocks are left behind");
+                           }});
 }
 
 void requireSight() {
@@ -170,8 +175,13 @@ void requireSight() {
         skip("on this system a program does not see the allocations of its libraries");
 }
 
+void tell(int points, Trial& trial) {
+    trial.told = std::to_string(points) + " runs with a failing allocation";
+}
+
 void failCreate(bool inPairs, Trial& trial) {
     requireSight();
+    int points = 0;
     withEntries(trial, [&](WeakCreatorPtr const& entry) {
         PreferencesPtr const given = new VCreationPreferences("given");
         Nucleo::Intercube const context;
@@ -179,14 +189,15 @@ void failCreate(bool inPairs, Trial& trial) {
         entry->create(name, context, given);  // a warm-up
         ObjectPtr object;
         auto const work = [&] { object = entry->create(name, context, given); };
-        failEverywhereWithoutLeak(inPairs,
-                                  {[] {}, work,
-                                   [&] {
-                                       object = nullptr;
-                                       require(entry->instances().empty(),
-                                               "the entry knows an object that was never made");
-                                   }});
+        points += failEverywhereWithoutLeak(
+            inPairs, {[] {}, work,
+                      [&] {
+                          object = nullptr;
+                          require(entry->instances().empty(),
+                                  "the entry knows an object that was never made");
+                      }});
     });
+    tell(points, trial);
 }
 
 /// An object, its pool, and its map as it was.
@@ -215,10 +226,11 @@ struct Node {
 
 void failFirstUpdate(bool inPairs, Trial& trial) {
     requireSight();
+    int points = 0;
     withMaps(trial, [&](WeakCreatorPtr const& entry, ObjectPtr const& first) {
         Colours const expected = coloursOf(*updated(*first, newPool()), fewScalars());
         Node node;
-        failEverywhereWithoutLeak(
+        points += failEverywhereWithoutLeak(
             inPairs, {[&] { node.make(entry); }, [&] { forceUpdate(*node.object, node.pool); },
                       [&] {
                           ColormapPtr map = updated(*node.object, node.pool);
@@ -228,31 +240,35 @@ void failFirstUpdate(bool inPairs, Trial& trial) {
                           node.letGo();
                       }});
     });
+    tell(points, trial);
 }
 
 void failNextUpdate(bool inPairs, Trial& trial) {
     requireSight();
+    int points = 0;
     withMaps(trial, [&](WeakCreatorPtr const& entry, ObjectPtr const& first) {
         updated(*first, newPool());
         Node node;
-        failEverywhereWithoutLeak(inPairs, {[&] {
-                                                node.object = create(entry);
-                                                node.update();
-                                            },
-                                            [&] { forceUpdate(*node.object, node.pool); },
-                                            [&] {
-                                                std::string const change = difference(
-                                                    *node.map, fewScalars(), node.colours);
-                                                require(change.empty(), "of the old map " + change);
-                                                require(forceUpdate(*node.object, node.pool),
-                                                        "the next update gives false");
-                                                node.letGo();
-                                            }});
+        points += failEverywhereWithoutLeak(
+            inPairs,
+            {[&] {
+                 node.object = create(entry);
+                 node.update();
+             },
+             [&] { forceUpdate(*node.object, node.pool); },
+             [&] {
+                 std::string const change = difference(*node.map, fewScalars(), node.colours);
+                 require(change.empty(), "of the old map " + change);
+                 require(forceUpdate(*node.object, node.pool), "the next update gives false");
+                 node.letGo();
+             }});
     });
+    tell(points, trial);
 }
 
 void failSet(bool inPairs, Trial& trial) {
     requireSight();
+    int points = 0;
     withMaps(trial, [&](WeakCreatorPtr const& entry, ObjectPtr const& first) {
         updated(*first, newPool());
         for (SlotPtr const& slot : inputsOf(*first)) {
@@ -262,7 +278,7 @@ void failSet(bool inPairs, Trial& trial) {
             setParameter(*create(entry), name, other, newPool());  // a warm-up
             Node node;
             inOwnWords("parameter " + inQuotes(name), [&] {
-                failEverywhereWithoutLeak(
+                points += failEverywhereWithoutLeak(
                     inPairs, {[&] { node.make(entry); },
                               [&] { setParameter(*node.object, name, other, node.pool); },
                               [&] {
@@ -273,6 +289,7 @@ void failSet(bool inPairs, Trial& trial) {
             });
         }
     });
+    tell(points, trial);
 }
 
 void failLoad(Trial&) {

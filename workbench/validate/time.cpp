@@ -42,11 +42,15 @@ void loadCycles(Trial& trial) {
         liveOnce(trial);
     std::string const often = " more after " + std::to_string(cycles) + " times";
     std::size_t const most = bytes + MostGrowth + GrowthOfCycle * static_cast<std::size_t>(cycles);
-    require(heapBytes() <= most, std::to_string(heapBytes() - bytes) + " bytes" + often);
+    std::size_t const now = heapBytes();
+    require(now <= most, std::to_string(now - bytes) + " bytes" + often);
     require(nextThreadIndex() == index,
             std::to_string(nextThreadIndex() - index) + " thread-local indexes" + often);
     require(openHandles() <= handles,
             std::to_string(openHandles() - handles) + " open files" + often);
+    trial.told = std::to_string(cycles) + " cycles, " +
+                 std::to_string(static_cast<long long>(now) - static_cast<long long>(bytes)) +
+                 " bytes more";
 }
 
 }  // namespace
