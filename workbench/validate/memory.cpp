@@ -104,8 +104,7 @@ bool hasFailed(int n, Failing mode, Work const& work) {
     } catch (Verdict const&) {
         throw;
     } catch (...) {
-        throw Verdict{Kind::Failed, "allocation " + std::to_string(n) +
-                                        " fails, and what passes out is no std::bad_alloc"};
+        fail("what passes out is no std::bad_alloc");
     }
     return failing.hasFailed();
 }

@@ -71,6 +71,72 @@ INSTANTIATE_TEST_SUITE_P(
                                "before the test was done")}),
     [](auto const& each) { return each.param.plugin; });
 
+// --- Each test alone, on a plug-in with an entry for each of many faults
+
+struct Fault {
+    std::string test;
+    std::string seen;
+    bool isSeenOnWindows = true;
+};
+
+class ManyFaults : public testing::TestWithParam<Fault> {};
+
+TEST_P(ManyFaults, AreEachSeenByTheirTest) {
+#if defined(_WIN32)
+    if (!GetParam().isSeenOnWindows)
+        GTEST_SKIP() << "a library keeps the functions that it was linked to";
+#endif
+    Judgement const result = judged("manyFaults", {"--only", GetParam().test});
+    EXPECT_THAT(result.against, named(GetParam().test, StartsWith("failed: " + GetParam().seen)));
+}
+
+constexpr bool OnLinuxAlone = false;
+
+INSTANTIATE_TEST_SUITE_P(
+    Plugins, ManyFaults,
+    testing::Values(
+        Fault{"file/no-thread", "1 thread more"},
+        Fault{"file/touches-nothing", "loading it has opened the file", OnLinuxAlone},
+        Fault{"file/quiet", ""},
+        Fault{"catalogue/keys", "Colormaps/ Blank : a part of the key has blanks"},
+        Fault{"catalogue/unique", "Colormaps/Twice: two entries"},
+        Fault{"catalogue/creates", "Colormaps/Twice: "},
+        Fault{"catalogue/texts", "Colormaps/Control: the tags"},
+        Fault{"catalogue/help", "Colormaps/Fickle help: "},
+        Fault{"catalogue/offers", "Colormaps/Twice: "},
+        Fault{"parameters/properties",
+              "Colormaps/Bad advice: parameter 'level': its min 2 is above"},
+        Fault{"parameters/random-settings", "Colormaps/Picky: "},
+        Fault{"parameters/at-the-ends", "Colormaps/Picky: with 'level=1': it throws 'too much'"},
+        Fault{"cycle/must-update", "Colormaps/Always due: "},
+        Fault{"cycle/idle", "Colormaps/Always due: "},
+        Fault{"cycle/pools", "Colormaps/One for all: two pools have one map"},
+        Fault{"cycle/age", "Colormaps/Never younger: "},
+        Fault{"cycle/copies", "Colormaps/No copy: "},
+        Fault{"map/answers", "Colormaps/Dumb: the lookup of"},
+        Fault{"map/locks-nothing", "Colormaps/Locking: ", OnLinuxAlone},
+        Fault{"map/quiet", "Colormaps/Talking: "},
+        Fault{"map/whole-numbers", "Colormaps/Other bytes: getColorRGB"},
+        Fault{"map/facts", "Colormaps/Growing: "}, Fault{"map/arithmetic", "Colormaps/Rounding: "},
+        Fault{"memory/objects", "Colormaps/Leaky: "},
+        Fault{"memory/fail-create", "Colormaps/Leaky: ", OnLinuxAlone},
+        Fault{"memory/fail-update", "Colormaps/Swallowing: allocation 1 fails: what passes out",
+              OnLinuxAlone},
+        Fault{"memory/fail-next-update",
+              "Colormaps/Swallowing: allocation 1 fails: ", OnLinuxAlone},
+        Fault{"threads/starts-none", ""}),
+    [](auto const& each) {
+        std::string name = each.param.test;
+        for (char& c : name)
+            c = c == '/' || c == '-' ? '_' : c;
+        return name;
+    });
+
+TEST(BrokenPlugins, AreWarnedOfWhereColoursAreNotFinite) {
+    EXPECT_THAT(judged("manyFaults", {"--only", "map/finite"}).warnings,
+                ElementsAre(Pair("map/finite", StartsWith("Colormaps/Infinite: the scalar 0"))));
+}
+
 class SoundPlugin : public testing::TestWithParam<std::string> {};
 
 TEST_P(SoundPlugin, PassesWithoutAWarning) {
