@@ -16,7 +16,7 @@ using namespace workbench;
 
 namespace {
 
-constexpr char Network[] =
+constexpr char SmallNetwork[] =
     "# TelmScript Preliminiary Experimental \n"
     "# Expecting Implicitly created object: \n"
     "# CameraControl Camera\n"
@@ -93,7 +93,7 @@ void ask(Studio& studio, Handler& handler, std::string const& line) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
-    Studio studio({.text = Network, .file = "fuzz.telm"});
+    Studio studio({.text = SmallNetwork, .file = "fuzz.telm"});
     Handler handler(studio, "s", 1);
     std::string_view rest(reinterpret_cast<char const*>(data), size);
     for (int i = 0; i < 40 && !rest.empty(); ++i) {
