@@ -34,14 +34,17 @@ struct Loading {
         std::puts("loaded");
         file = std::fopen(EmptyFile, "r");
         lost = new char[100];
+#if !defined(_WIN32)  // where a thread cannot end while the loader unloads
         thread = std::thread([this] {
             while (!ends)
                 std::this_thread::sleep_for(std::chrono::milliseconds(1));
         });
+#endif
     }
     ~Loading() {
         ends = true;
-        thread.join();
+        if (thread.joinable())
+            thread.join();
         std::fclose(file);
     }
 
