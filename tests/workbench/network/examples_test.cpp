@@ -7,9 +7,9 @@
 #include <map>
 #include <set>
 
-#include "tests/support/LibraryFile.hpp"
 #include "workbench/common/files.hpp"
 #include "workbench/network/Script.hpp"
+#include "workbench/platform/LibraryTables.hpp"
 #include "workbench/session/PluginFile.hpp"
 
 namespace workbench {
@@ -382,7 +382,7 @@ TEST(PluginFile, CarriesBothExamplesOneBehindTheOther) {
 }
 
 TEST(PluginFile, CarriesThemInItsWritableData) {
-    tests::LibraryFile const plugin(pluginBesideProgram());
+    LibraryTables const plugin(pluginBesideProgram());
     std::vector<std::string> holders;
     for (auto const& [name, content] : plugin.sections)
         if (content.find(textOfExample(First)) != std::string::npos)
