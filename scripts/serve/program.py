@@ -58,6 +58,8 @@ class Serving:
 
     def __init__(self, command, folder):
         self.log = open(folder / "serve.log", "w+")
+        # What runs in the background is told to ignore it, and so is what it starts.
+        signal.signal(signal.SIGINT, signal.default_int_handler)
         self.process = subprocess.Popen(command, stdout=subprocess.PIPE, stderr=self.log, text=True, cwd=folder,
                                         stdin=subprocess.DEVNULL)
         self.address = self.process.stdout.readline().strip()

@@ -85,7 +85,10 @@ TEST(Validate, RunsOneGroupAlone) {
 TEST(Validate, NamesASeedOfItsOwnIfItIsGivenNone) {
     Lines const lines =
         results({"validate", fileBeside("soundPlugin.telm"), "--only", "catalogue/keys"});
-    EXPECT_THAT(lines.back(), testing::ContainsRegex("^1 passed; seed [0-9]+$"));
+    std::string const summary = "1 passed; seed ";
+    ASSERT_THAT(lines.back(), StartsWith(summary));
+    std::string const seed = lines.back().substr(summary.size());
+    EXPECT_TRUE(!seed.empty() && seed.find_first_not_of("0123456789") == std::string::npos) << seed;
 }
 
 TEST(Validate, ShowsWhatThePluginHasPrinted) {
