@@ -67,6 +67,8 @@ fs::path programBeside(std::string const& name) {
     return workbench::fileBesideProgram(workbench::programFileName(name));
 }
 
+TemporaryFolder::TemporaryFolder() = default;
+
 std::vector<std::string> TemporaryFolder::names() const {
     std::vector<std::string> result;
     for (auto const& entry : fs::directory_iterator(path()))

@@ -40,6 +40,7 @@ std::filesystem::path programBeside(std::string const& name);
 /// A fresh folder that is gone with the object.
 class TemporaryFolder : public workbench::TemporaryFolder {
 public:
+    TemporaryFolder();
     /// The names of what is in it, in alphabetical order.
     std::vector<std::string> names() const;
 };
