@@ -32,7 +32,6 @@ public:
 
     /// The next answer as it stands, by its content length.
     std::string answer() {
-        boost::system::error_code error;
         std::size_t end = std::string::npos;
         while ((end = read_.find("\r\n\r\n")) == std::string::npos && readMore()) {
         }
