@@ -19,7 +19,8 @@ constexpr int IconHeight = 12;
 constexpr rgb8_t NoNumber{255, 0, 255};
 
 rgb8_t iconColor(Colormap const& map, int column) {
-    double const t = map.getMin() + (map.getMax() - map.getMin()) * (column + 0.5) / IconWidth;
+    double const min = map.getMin(), max = map.getMax();  // as int they may lie too far apart
+    double const t = min + (max - min) * (column + 0.5) / IconWidth;
     auto const color = map.getColor(t);
     for (std::size_t i = 0; i < rgb8_t().size(); ++i)
         if (color[i] != color[i])

@@ -159,7 +159,10 @@ TEST(Watched, FilesThatCannotBeHadAtTheStartAreToldOf) {
 
 TEST_F(Watching, OverAndOverLeavesNothingBehind) {
     constexpr std::size_t WarmUp = 10;
+    // The sanitizer enters an exit function of its own beside each of ours and never takes it
+    // out again; otherwise the smallest block has 32 bytes.
     constexpr std::size_t Reloads = TESTS_ADDRESS_SANITIZER ? 20 : 200;
+    constexpr std::size_t MostGrowth = (TESTS_ADDRESS_SANITIZER ? 4096 : 16) * Reloads;
     std::size_t before = 0;
     unsigned threadIndex = 0;
     auto const turn = [&](std::size_t i) {
@@ -180,7 +183,7 @@ TEST_F(Watching, OverAndOverLeavesNothingBehind) {
     std::size_t const after = heapBytes();
     std::printf("%zu reloads: heap %+lld bytes\n", Reloads,
                 static_cast<long long>(after) - static_cast<long long>(before));
-    EXPECT_LT(after, before + 16 * Reloads) << "the smallest block has 32 bytes";
+    EXPECT_LT(after, before + MostGrowth);
     EXPECT_EQ(nextThreadIndex(), threadIndex);
     EXPECT_TRUE(isMapped(Name));
     studio_.reset();
