@@ -382,7 +382,7 @@ TEST_F(SecondCopy, HasObjectsThatTheFirstOnesUnloadLeavesAlone) {
 
 // --- Cycles
 
-#if TESTS_ADDRESS_SANITIZER || TESTS_THREAD_SANITIZER
+#if PRISM_ADDRESS_SANITIZER || PRISM_THREAD_SANITIZER
 // Each cycle takes longer there. The sanitizer enters an exit function of its
 // own beside each of ours and never takes it out again, so that the list of
 // exit functions grows; what we leak it reports by itself.

@@ -371,7 +371,7 @@ TEST(Failures, WithoutMemorySayWhatHelps) {
 
 /// A picture of a gigabyte, in a third of it.
 TEST(Failures, OfAllocationsSayWhatHelps) {
-    if (TESTS_ADDRESS_SANITIZER || TESTS_THREAD_SANITIZER)
+    if (PRISM_ADDRESS_SANITIZER || PRISM_THREAD_SANITIZER)
         GTEST_SKIP() << "a sanitizer needs more memory than any limit leaves";
     TemporaryFolder const folder;
     ProcessResult const result = runProcess(

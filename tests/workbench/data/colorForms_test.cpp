@@ -415,7 +415,7 @@ TEST(ColorProgress, TellsTheTimeThatIsLeft) {
 void paintInLittleMemory(TemporaryFolder const& folder, Lines const& arguments) {
     Lines call{fileBeside("telmbench"), "color", "Hypsometric", textOf(folder / "grid.tif")};
     call.insert(call.end(), arguments.begin(), arguments.end());
-    if (!TESTS_ADDRESS_SANITIZER)
+    if (!PRISM_ADDRESS_SANITIZER)
         call.insert(call.begin(), {"/usr/bin/prlimit", "--data=268435456"});
     ProcessResult const result = runProcess(call.front(), {call.begin() + 1, call.end()});
     EXPECT_EQ(result.err, "");
@@ -440,7 +440,7 @@ TEST(ColorInLittleMemory, PaintsASparseGridOf60000Squared) {
 
 /// 80 million cells that are all there, of which the picture alone is 320 MB.
 TEST(ColorInLittleMemory, PaintsAFullGridThatIsLarger) {
-    if (TESTS_ADDRESS_SANITIZER)
+    if (PRISM_ADDRESS_SANITIZER)
         GTEST_SKIP() << "too slow, and nothing to learn without the limit";
     TemporaryFolder const folder;
     workbench::writeFile(folder / "grid.tif", emptyGrid(20'000, 4'000));

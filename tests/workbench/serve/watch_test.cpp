@@ -161,8 +161,8 @@ TEST_F(Watching, OverAndOverLeavesNothingBehind) {
     constexpr std::size_t WarmUp = 10;
     // The sanitizer enters an exit function of its own beside each of ours and never takes it
     // out again; otherwise the smallest block has 32 bytes.
-    constexpr std::size_t Reloads = TESTS_ADDRESS_SANITIZER ? 20 : 200;
-    constexpr std::size_t MostGrowth = (TESTS_ADDRESS_SANITIZER ? 4096 : 16) * Reloads;
+    constexpr std::size_t Reloads = PRISM_ADDRESS_SANITIZER ? 20 : 200;
+    constexpr std::size_t MostGrowth = (PRISM_ADDRESS_SANITIZER ? 4096 : 16) * Reloads;
     std::size_t before = 0;
     unsigned threadIndex = 0;
     auto const turn = [&](std::size_t i) {

@@ -90,7 +90,7 @@ TEST_P(ManyFaults, AreEachSeenByTheirTest) {
     bool const isHere = GetParam().where == Where::Everywhere;
 #else
     bool const isHere =
-        GetParam().where != Where::OnLinuxWithoutSanitizers || !TESTS_ADDRESS_SANITIZER;
+        GetParam().where != Where::OnLinuxWithoutSanitizers || !PRISM_ADDRESS_SANITIZER;
 #endif
     if (!isHere)
         GTEST_SKIP() << "not to be seen, or not to be done, in this build";
