@@ -71,10 +71,12 @@ class Serving:
         self.log.seek(0)
         return self.log.read()
 
-    def edit(self, change):
-        """A change that no page makes."""
-        urllib.request.urlopen(urllib.request.Request(
-            self.address + "edit", json.dumps(change).encode(), {"Content-Type": "application/json"})).close()
+    def edit(self, change, query=""):
+        """A change that no page makes. Gives the bytes of the answer."""
+        with urllib.request.urlopen(urllib.request.Request(
+                self.address + "edit" + query, json.dumps(change).encode(),
+                {"Content-Type": "application/json"})) as answer:
+            return answer.read()
 
     def stop(self):
         """Ends it as Ctrl-C does."""

@@ -9,6 +9,7 @@
 #include "workbench/gallery/style.hpp"
 #include "workbench/picture/png.hpp"
 #include "workbench/serve/pageFiles.hpp"
+#include "workbench/serve/pixelRuns.hpp"
 
 namespace workbench {
 
@@ -60,18 +61,21 @@ public:
         }
     }
 
-    bool has(string const& name) const { return values_.contains(name); }
-
-    string const& text(string const& name) const {
+    std::optional<string> find(string const& name) const {
         auto const found = values_.find(name);
-        if (found == values_.end())
+        return found == values_.end() ? std::nullopt : std::optional(found->second);
+    }
+
+    string text(string const& name) const {
+        std::optional<string> found = find(name);
+        if (!found)
             throw CallError("the address lacks " + name + "=...");
-        return found->second;
+        return *std::move(found);
     }
 
     template <class Number>
     Number number(string const& name) const {
-        string const& value = text(name);
+        string const value = text(name);
         Number number{};
         char const* const end = value.data() + value.size();
         auto const [stop, error] = std::from_chars(value.data(), end, number);
@@ -102,13 +106,19 @@ Response png(string body) {
     return {.type = "image/png", .body = std::move(body)};
 }
 
-Response pixels(Studio& studio, Query const& query) {
-    std::shared_ptr<Image const> const image = studio.picture(query.text("viewer"));
-    return {.type = "application/octet-stream",
-            .headers = {{"X-Width", std::to_string(image->width())},
-                        {"X-Height", std::to_string(image->height())},
-                        {"X-Revision", std::to_string(studio.revision())}},
-            .pixels = image};
+Response pixels(Studio& studio, string const& viewer) {
+    std::shared_ptr<Image const> const image = studio.picture(viewer);
+    std::optional<string> runs = pixelRuns(*image);
+    Response response{.type = "application/octet-stream",
+                      .headers = {{"X-Form", runs ? "runs" : "pixels"},
+                                  {"X-Width", std::to_string(image->width())},
+                                  {"X-Height", std::to_string(image->height())},
+                                  {"X-Revision", std::to_string(studio.revision())}}};
+    if (runs)
+        response.body = *std::move(runs);
+    else
+        response.pixels = image;
+    return response;
 }
 
 /// A name as it may stand in a header.
@@ -134,7 +144,8 @@ struct Route {
 };
 
 constexpr Route Routes[] = {
-    {"pixels", pixels},
+    {"pixels",
+     [](Studio& studio, Query const& query) { return pixels(studio, query.text("viewer")); }},
     {"picture.png",
      [](Studio& studio, Query const& query) {
          return png(encodePng(*studio.picture(query.text("viewer"))));
@@ -236,14 +247,14 @@ std::optional<Response> Handler::route(Request const& request, bool isLast) {
                         .body = "Open the whole address that telmbench printed.\n"};
     string_view const target = string_view(request.target).substr(prefix_.size());
     string_view const path = target.substr(0, target.find('?'));
+    Query const query(target.substr(std::min(path.size() + 1, target.size())));
     if (request.method == "POST")
-        return post(path, request);
+        return post(path, query.find("viewer"), request);
     if (request.method != "GET")
         throw Refusal{405, "only GET and POST are answered"};
-    Query const query(target.substr(std::min(path.size() + 1, target.size())));
     if (path == "state")
-        return query.has("after") ? wait(query.number<std::uint64_t>("after"), isLast)
-                                  : json(studio_.state());
+        return query.find("after") ? wait(query.number<std::uint64_t>("after"), isLast)
+                                   : json(studio_.state());
     for (Route const& route : Routes)
         if (route.path == path)
             return route.answer(studio_, query);
@@ -260,12 +271,20 @@ std::optional<Response> Handler::wait(std::uint64_t after, bool isLast) {
 
 /// The type of the body keeps foreign pages out that know the address: browsers let
 /// them send no such body.
-Response Handler::post(string_view path, Request const& request) {
+Response Handler::post(string_view path, std::optional<string> const& viewer,
+                       Request const& request) {
     if (path != "edit")
         throw Refusal{404, "there is nothing at this address to send to"};
     if (request.contentType != JsonType && !request.contentType.starts_with(string(JsonType) + ";"))
         throw Refusal{415, "a change must be sent as application/json"};
-    return json(textOf(Json{{"revision", studio_.edit(request.body)}}));
+    std::uint64_t const revision = studio_.edit(request.body);
+    if (viewer)
+        try {
+            return pixels(studio_, *viewer);
+        } catch (std::exception const&) {
+            // The change is made. Whoever asks for the picture hears why there is none.
+        }
+    return json(textOf(Json{{"revision", revision}}));
 }
 
 string newSecret() {

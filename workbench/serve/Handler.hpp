@@ -57,7 +57,8 @@ public:
 
 private:
     std::optional<Response> route(Request const& request, bool isLast);
-    Response post(std::string_view path, Request const& request);
+    Response post(std::string_view path, std::optional<std::string> const& viewer,
+                  Request const& request);
     std::optional<Response> wait(std::uint64_t after, bool isLast);
 
     Studio& studio_;

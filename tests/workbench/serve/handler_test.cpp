@@ -3,6 +3,7 @@
 
 #include "tests/workbench/serve/StudioTest.hpp"
 #include "workbench/picture/png.hpp"
+#include "workbench/serve/pixelRuns.hpp"
 
 namespace workbench {
 namespace {
@@ -22,8 +23,8 @@ protected:
                 .contentType = "",
                 .body = ""};
     }
-    Request post(std::string const& body) {
-        Request request = get("edit");
+    Request post(std::string const& body, std::string const& path = "edit") {
+        Request request = get(path);
         request.method = "POST";
         request.contentType = "application/json";
         request.body = quoted(body);
@@ -142,15 +143,45 @@ TEST_F(Requests, ForTheNextStateWaitForIt) {
     EXPECT_EQ(Json::parse(response->body)["revision"], 2);
 }
 
+using Headers = std::vector<std::pair<std::string, std::string>>;
+
 TEST_F(Requests, ForPixelsGetThoseOfThePicture) {
     Response const pixels = answer(get("pixels?viewer=Viewer1"));
     Image const& image = *studio_.picture("Viewer1");
-    EXPECT_EQ(pixels.bytes().size(), 60U * 40 * 4);
     EXPECT_EQ(pixels.bytes(), std::string_view(reinterpret_cast<char const*>(image.pixels().data()),
                                                image.pixels().size() * 4));
-    EXPECT_EQ(pixels.headers, (std::vector<std::pair<std::string, std::string>>{
-                                  {"X-Width", "60"}, {"X-Height", "40"}, {"X-Revision", "1"}}));
+    EXPECT_EQ(
+        pixels.headers,
+        (Headers{
+            {"X-Form", "pixels"}, {"X-Width", "60"}, {"X-Height", "40"}, {"X-Revision", "1"}}));
     EXPECT_EQ(answer(get("picture.png?viewer=Viewer1")).body, encodePng(image));
+}
+
+TEST_F(Requests, ForPixelsOfFewColoursGetTheirRuns) {
+    answer(post("{'do':'set','object':'Slice','name':'transparency','text':'0'}"));
+    Response const pixels = answer(get("pixels?viewer=Viewer1"));
+    std::optional<std::string> const runs = pixelRuns(*studio_.picture("Viewer1"));
+    ASSERT_TRUE(runs);
+    EXPECT_EQ(pixels.bytes(), *runs);
+    EXPECT_EQ(pixels.headers[0], Headers::value_type("X-Form", "runs"));
+}
+
+TEST_F(Requests, ForAChangeMayHaveThePictureItMakes) {
+    Response const before = answer(get("pixels?viewer=Viewer1"));
+    std::string const change = "{'do':'set','object':'Slice','name':'transparency','text':'0.25'}";
+    Response const changed = answer(post(change, "edit?viewer=Viewer1"));
+    EXPECT_EQ(studio_.revision(), 2U);
+    EXPECT_NE(changed.bytes(), before.bytes());
+    Response const after = answer(get("pixels?viewer=Viewer1"));
+    EXPECT_EQ(changed.bytes(), after.bytes());
+    EXPECT_EQ(changed.headers, after.headers);
+}
+
+TEST_F(Requests, ForAChangeAreCarriedOutAlsoWithoutAPicture) {
+    std::string const change = "{'do':'set','object':'Slice','name':'transparency','text':'0.25'}";
+    EXPECT_EQ(answer(post(change, "edit?viewer=Viewer9")).body, "{\"revision\":2}");
+    EXPECT_EQ(answer(post("{'do':'set'}", "edit?viewer=Viewer1")).status, 400U);
+    EXPECT_EQ(studio_.revision(), 2U);
 }
 
 TEST_F(Requests, OfAConflictSaySo) {

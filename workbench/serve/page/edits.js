@@ -6,15 +6,16 @@ import {sendEdit} from './server.js';
 const waiting = new Map();
 let underWay = null;
 let running = false;
-let painted = async () => {};
+let screen = {viewer: () => null, paint: () => {}};
 const quiet = [];
 
 /// The last revision that an edit of this page has made.
 export let lastRevision = 0;
 
-/// What is done after each edit, before the next one goes out.
-export function afterEach(work) {
-  painted = work;
+/// Names the viewer whose picture comes with each edit, and the one who paints it,
+/// before the next edit goes out.
+export function paintEach(viewer, paint) {
+  screen = {viewer, paint};
 }
 
 /// What is done once no edit is left.
@@ -60,9 +61,11 @@ async function run() {
     waiting.delete(place);
     underWay = place;
     try {
-      lastRevision = Math.max(lastRevision, await sendEdit(edit));
+      const viewer = screen.viewer();
+      const answer = await sendEdit(edit, viewer);
+      lastRevision = Math.max(lastRevision, answer.revision);
+      if (answer.image) screen.paint(viewer, answer);
       resolve();
-      await painted();
     } catch (refusal) {
       reject(refusal);
     }

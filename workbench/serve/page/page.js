@@ -2,7 +2,6 @@
 
 import {showCatalogue} from './catalogue.js';
 import {byId} from './dom.js';
-import {afterEach, whenQuiet} from './edits.js';
 import {follow} from './following.js';
 import {showGlass} from './glass.js';
 import {showHistory} from './history.js';
@@ -10,7 +9,7 @@ import {showAnswering, showMessages} from './messages.js';
 import {showNetwork} from './network.js';
 import {showOut} from './out.js';
 import {showParameters} from './parameters.js';
-import {draw, showPictures} from './pictures.js';
+import {showPictures} from './pictures.js';
 
 showMessages();
 showNetwork();
@@ -22,6 +21,4 @@ showHistory();
 showOut();
 byId('help-button').addEventListener('click', () => byId('help').showModal());
 
-afterEach(() => draw());
-whenQuiet(draw);
 follow(showAnswering);

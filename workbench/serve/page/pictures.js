@@ -1,7 +1,7 @@
 // The picture of each viewer, as the program drew it.
 
 import {byId, element, say} from './dom.js';
-import {isBusy} from './edits.js';
+import {isBusy, paintEach, whenQuiet} from './edits.js';
 import {oneAtATime} from './oneAtATime.js';
 import {Probe} from './probe.js';
 import {address, pixelsOf} from './server.js';
@@ -37,22 +37,23 @@ class Picture {
   /// Draws what the viewer shows now. A picture that cannot be had leaves the last one.
   async draw() {
     try {
-      const {image, revision} = await pixelsOf(this.name);
-      this.paint(image);
-      this.revision = revision;
-      this.canvas.dataset.revision = revision;
+      this.paint(await pixelsOf(this.name));
       this.complain(studio.state?.viewers.find(each => each.name === this.name)?.error);
     } catch (refusal) {
       this.complain(refusal.message);
     }
   }
 
-  paint(image) {
+  /// A picture that was overtaken by a younger one is not painted.
+  paint({image, revision}) {
+    if (revision < this.revision) return;
     const {canvas} = this;
     if (canvas.width !== image.width || canvas.height !== image.height)
       Object.assign(canvas, {width: image.width, height: image.height});
     say(this.size, `${image.width} × ${image.height}`);
     this.context.putImageData(image, 0, 0);
+    this.revision = revision;
+    canvas.dataset.revision = revision;
     this.probe.ask();
   }
 }
@@ -71,14 +72,22 @@ function arrange(viewers) {
 
 /// Draws the pictures that are older than the revision; while the hand moves, the
 /// first one only.
-export const draw = oneAtATime(async (revision = Infinity) => {
+const draw = oneAtATime(async revision => {
   for (const [i, picture] of pictures.entries()) {
     if (i > 0 && isBusy()) break;
     if (picture.revision < revision) await picture.draw();
   }
 });
 
+/// Each change is seen in the first picture at once, and in the others later.
+function paintEachChange() {
+  paintEach(() => pictures[0]?.name ?? null,
+            (viewer, picture) => pictures.find(each => each.name === viewer)?.paint(picture));
+}
+
 export function showPictures() {
+  paintEachChange();
+  whenQuiet(draw);
   studio.on('state', state => {
     arrange(state.viewers);
     for (const {name, error} of state.viewers)

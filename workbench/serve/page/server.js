@@ -28,25 +28,39 @@ export async function stateAfter(revision) {
   return response.status === 204 ? null : response.json();
 }
 
-/// Carries out an edit; the number of the revision that has it.
-export async function sendEdit(edit) {
-  const response = await ask('edit', {
+/// The pixels of an answer. Bytes stand for red, green, blue and alpha; a run is the
+/// number of its pixels and the one that they all are, 4 bytes each.
+function imageOf(form, bytes, width, height) {
+  if (form === 'pixels') return new ImageData(new Uint8ClampedArray(bytes), width, height);
+  const image = new ImageData(width, height);
+  const pixels = new Uint32Array(image.data.buffer);
+  const runs = new Uint32Array(bytes);
+  for (let i = 0, at = 0; i < runs.length; i += 2)
+    pixels.fill(runs[i + 1], at, at += runs[i]);
+  return image;
+}
+
+/// A picture as it came, and the revision it shows.
+async function pictureOf(response) {
+  const header = name => response.headers.get(name);
+  const [width, height, revision] = ['X-Width', 'X-Height', 'X-Revision'].map(name => Number(header(name)));
+  return {revision, image: imageOf(header('X-Form'), await response.arrayBuffer(), width, height)};
+}
+
+/// Carries out an edit: the revision that has it, and the picture of the viewer then,
+/// if there is one and it can be drawn.
+export async function sendEdit(edit, viewer) {
+  const response = await ask(viewer === null ? 'edit' : address('edit', {viewer}), {
     method: 'POST',
     headers: {'Content-Type': 'application/json'},
     body: JSON.stringify(edit),
   });
-  return (await response.json()).revision;
+  return response.headers.has('X-Form') ? pictureOf(response) : response.json();
 }
 
-/// The picture of a viewer, as it came, and the revision it shows.
+/// The picture of a viewer.
 export async function pixelsOf(viewer) {
-  const response = await ask(address('pixels', {viewer}));
-  const number = name => Number(response.headers.get(name));
-  const bytes = new Uint8ClampedArray(await response.arrayBuffer());
-  return {
-    revision: number('X-Revision'),
-    image: new ImageData(bytes, number('X-Width'), number('X-Height')),
-  };
+  return pictureOf(await ask(address('pixels', {viewer})));
 }
 
 export async function probe(viewer, x, y) {
