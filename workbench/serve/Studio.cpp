@@ -23,7 +23,8 @@ namespace {
 
 using std::string;
 
-constexpr std::size_t MaxSteps = 1000;
+/// What undo remembers: a thousand steps and more of a network of the usual size.
+constexpr std::size_t MaxBytesOfSteps = 8'000'000;
 
 /// A text of a change; a `CallError` if it is not there.
 string textIn(Json const& change, char const* name) {
@@ -249,8 +250,11 @@ void Studio::note(Step step, bool pictureMayDiffer) {
                         undo_.back().drag == step.drag && undo_.back().label == step.label;
     if (!goesOn)
         undo_.push_back(std::move(step));
-    if (undo_.size() > MaxSteps)
-        undo_.erase(undo_.begin());
+    std::size_t bytes = 0;
+    for (Step const& each : undo_)
+        bytes += each.text.size();
+    for (; undo_.size() > 1 && bytes > MaxBytesOfSteps; undo_.erase(undo_.begin()))
+        bytes -= undo_.front().text.size();
     redo_.clear();
     if (pictureMayDiffer)
         noteChange();

@@ -195,6 +195,26 @@ TEST_F(Editing, AMovedNodeLeavesThePictureAlone) {
     EXPECT_EQ(studio_.picture("Viewer1"), before) << "it was drawn anew";
 }
 
+TEST(UndoOf, ALargeNetworkRemembersItsLastStepsOnly) {
+    struct {
+        char const* rule;
+        std::size_t bytes;
+        int steps;
+    } const table[] = {{"a text of the usual size", 0, 20},
+                       {"a text of which two fit", 3'500'000, 2},
+                       {"a text of which none fits", 9'000'000, 1}};
+    for (auto const& each : table) {
+        Studio studio({.text = SmallNetwork + ("# " + std::string(each.bytes, 'x')) + "\n",
+                       .file = "large.telm"});
+        for (int x = 1; x <= 20; ++x)
+            studio.edit(R"({"do":"move","object":"Map","x":)" + std::to_string(x) + R"(,"y":2})");
+        int steps = 0;
+        for (; !Json::parse(studio.state())["undo"].is_null(); ++steps)
+            studio.edit(R"({"do":"undo"})");
+        EXPECT_EQ(steps, each.steps) << each.rule;
+    }
+}
+
 TEST_F(Editing, EachChangeAgreesWithItsTextInAnyOrder) {
     for (Case const& each : Cases) {
         refusal(each.change);  // some are not possible behind others
