@@ -1,4 +1,6 @@
 /// `telmbench serve`: a network and every map, live in a browser.
+#include <thread>
+
 #include "workbench/cli/commands.hpp"
 #include "workbench/cli/files.hpp"
 #include "workbench/cli/report.hpp"
@@ -49,6 +51,15 @@ Studio::Setup setupOf(SessionOptions const& common, Arguments const& given) {
     return {.session = common, .text = text, .file = textOf(file), .watch = given.watch};
 }
 
+/// Beside the serving: some browsers stay in front until they are closed, and must be
+/// answered meanwhile.
+void open(std::string const& address) {
+    std::thread([address] {
+        if (!openInBrowser(address))
+            report("no browser could be opened; open the address yourself");
+    }).detach();
+}
+
 void run(SessionOptions const& common, Arguments const& given) {
     Studio::Setup setup = setupOf(common, given);
     StandardOutput output(true);
@@ -60,8 +71,8 @@ void run(SessionOptions const& common, Arguments const& given) {
     std::string const address =
         "http://127.0.0.1:" + std::to_string(server.port()) + "/" + secret + "/";
     output.write(address + "\n");
-    if (given.open && !openInBrowser(address))
-        report("no browser could be opened; open the address yourself");
+    if (given.open)
+        open(address);
     int ticks = 0;
     server.run(handler, [&] {
         if (++ticks % TicksForEachLook == 0)

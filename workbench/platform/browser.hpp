@@ -5,7 +5,8 @@
 
 namespace workbench {
 
-/// Opens an address in the browser. False if the system has no way to do so.
+/// Opens an address in the browser, and waits where the system's opener stays until the
+/// browser is closed. False if there is no way to open one.
 bool openInBrowser(std::string const& address);
 
 }  // namespace workbench

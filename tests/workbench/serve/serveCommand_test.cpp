@@ -63,20 +63,23 @@ TEST(Serve, SaysInOneLineWhatItCannotStartWith) {
 /// The program in the background, ended by Ctrl-C.
 class Background {
 public:
-    explicit Background(std::vector<std::string> const& arguments) {
+    /// `path`: where programs are looked for before the usual places.
+    explicit Background(std::vector<std::string> const& arguments,
+                        std::filesystem::path const& path = {}) {
         std::signal(SIGINT, SIG_DFL);  // what runs in the background may be told to ignore it
-        thread_ = std::thread([this, arguments] {
+        thread_ = std::thread([this, arguments, path] {
             // the shell tells its own number, which is the program's
-            std::vector<std::string> words{"-c", "echo $$ >\"$0\"; exec \"$@\" >\"$0.out\"",
-                                           (folder_ / "number").string(),
+            std::vector<std::string> words{"-c",
+                                           "echo $$ >\"$0\"; PATH=\"$1:$PATH\"; shift; "
+                                           "exec \"$@\" >\"$0.out\" 2>\"$0.err\"",
+                                           (folder_ / "number").string(), path.string(),
                                            tests::programBeside("telmbench").string()};
             words.insert(words.end(), arguments.begin(), arguments.end());
             result_ = tests::runProcess("/bin/sh", words);
         });
         while (address_.empty() || address_.back() != '\n') {
             std::this_thread::sleep_for(std::chrono::milliseconds(5));
-            std::ifstream file(folder_ / "number.out");
-            address_.assign(std::istreambuf_iterator<char>(file), {});
+            address_ = textOf("number.out");
         }
     }
     Background(Background const&) = delete;
@@ -85,6 +88,8 @@ public:
 
     /// What it printed.
     std::string const& address() const { return address_; }
+    /// What it has said on standard error.
+    std::string complaint() const { return textOf("number.err"); }
 
     ProcessResult const& end(int signal) {
         if (thread_.joinable()) {
@@ -97,6 +102,11 @@ public:
     }
 
 private:
+    std::string textOf(std::string const& name) const {
+        std::ifstream file(folder_ / name);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
     tests::TemporaryFolder folder_;
     std::thread thread_;
     ProcessResult result_;
@@ -119,8 +129,38 @@ TEST(Serve, PrintsItsAddressServesAndEndsByCtrlC) {
         EXPECT_EQ(statusOf(answer), 200);
         EXPECT_THAT(answer, HasSubstr("\"title\":\"HypsometricSlice.telm\""));
         EXPECT_EQ(program.end(signal).status, 0);
-        EXPECT_EQ(program.end(signal).err, "");
+        EXPECT_EQ(program.complaint(), "");
     }
+}
+
+/// An opener of the test's own in the place of the system's.
+void writeOpener(std::filesystem::path const& folder, std::string const& lines) {
+    std::filesystem::path const file = folder / "xdg-open";
+    writeFile(file, "#!/bin/sh\n" + lines);
+    std::filesystem::permissions(file, std::filesystem::perms::owner_all);
+}
+
+TEST(Serve, OpensItsAddressInABrowserThatMayStay) {
+    tests::TemporaryFolder const folder;
+    std::filesystem::path const opened = folder / "opened";
+    writeOpener(folder.path(), "echo \"$1\" >" + opened.string() + ".part; mv " + opened.string() +
+                                   ".part " + opened.string() + "\nexec sleep 5\n");
+    Background program({"serve", "--open"}, folder.path());
+    while (!std::filesystem::exists(opened))
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    EXPECT_EQ(readFile(opened), program.address());
+    EXPECT_EQ(program.end(SIGTERM).status, 0);
+    EXPECT_EQ(program.complaint(), "");
+}
+
+TEST(Serve, ServesAlsoWithoutABrowser) {
+    tests::TemporaryFolder const folder;
+    writeOpener(folder.path(), "exit 3\n");
+    Background program({"serve", "--open"}, folder.path());
+    while (program.complaint().empty())
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    EXPECT_THAT(program.complaint(), HasSubstr("no browser could be opened"));
+    EXPECT_EQ(program.end(SIGTERM).status, 0);
 }
 
 #endif
