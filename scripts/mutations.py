@@ -234,11 +234,18 @@ def operator_changes(source, tokens, i):
         edit = token.start, token.end, lambda n: f"mutant::is({n}) != !"
         return [Change(token.start, token.end, "operator", "", (edit,))]
     if token.text == "-" and not between_blanks:
-        edit = token.start, token.end, lambda n: f"mutant::sign({n}) * "
-        return [Change(token.start, token.end, "operator", "", (edit,))]
+        return [Change(token.start, token.end, "operator", "", sign_edits(source, token, tokens[i + 1]))]
     if token.text == "?":
         return choice_change(source, tokens, i)
     return []
+
+
+def sign_edits(source, sign, operand):
+    """A number stays one with its sign, whatever stands before the two."""
+    is_number = source[operand.start].isdigit()
+    first = sign.start, sign.end, lambda n: ("(" if is_number else "") + f"mutant::sign({n}) * "
+    last = operand.end, operand.end, lambda n: ")"
+    return (first, last) if is_number else (first,)
 
 
 def choice_change(source, tokens, i):

@@ -106,6 +106,25 @@ TEST_P(TimedMap, HasATimeForEachPool) {
     EXPECT_EQ(update(*object, other)->time, 7.0);
 }
 
+TEST_P(TimedMap, KeepsItsTimeByItselfAndShowsNoTextsWithIt) {
+    ObjectPtr const object = create(GetParam());
+    for (char const* const name : {"time", "timescale"})
+        EXPECT_EQ(object->slot(name)->parameter()->preferences()->words(),
+                  std::set<std::string>{"local"})
+            << name;
+    VTime time(1.0, 0.0, 0.0, 0.0, "a unit", "a format", "a remark");
+    ASSERT_TRUE(readParameter(*object->slot("time")->parameter(), makePool(), time));
+    EXPECT_EQ(time.value, 0.0);
+    EXPECT_EQ(time.unit + time.format + time.remark, "");
+}
+
+TEST_P(TimedMap, IsAtZeroWhereTheTimeYieldsNothing) {
+    ObjectPtr const object = create(GetParam());
+    StrongPtr<VValue<int>, VValueBase> const number = new VValue<int>(7);
+    object->slot("time")->connect(new VValueParameter<int>(number, "a number"), {});
+    EXPECT_EQ(update(*object, makePool())->time, 0.0);
+}
+
 INSTANTIATE_TEST_SUITE_P(Maps, TimedMap,
                          testing::Values("Colormaps/Colorramp", "Colormaps/Zebramap"),
                          [](auto const& key) { return testName(key.param); });
@@ -184,8 +203,12 @@ INSTANTIATE_TEST_SUITE_P(
         StartRow{"ZeroInfinity", "endnegative", {}, -1, {0, 0, 0, 0}},
         StartRow{"ZeroInfinity", "zero", {{"epsilon", "1"}}, 0.5, {0, 0, 0, 0}},
         StartRow{"ZeroInfinity", "epsilon", {{"epsilon", "1"}}, 0, {0.5, 1, 0, 1}},
-        StartRow{
-            "ZeroInfinity", "range", {{"range", "-2,-1"}, {"epsilon", "0.5"}}, 0.5, {1, 1, 1, 1}},
+        // From 0 to 1: a half stays one, and is just within the band.
+        StartRow{"ZeroInfinity",
+                 "range",
+                 {{"range", "2,3"}, {"epsilon", "0.2951673"}},
+                 0.5,
+                 {1, 1, 1, 1}},
         // Without a light it is D65, which picks blue behind green.
         StartRow{
             "MaxDistinguishableColors",

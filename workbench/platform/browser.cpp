@@ -7,8 +7,7 @@
 #else
 #include <spawn.h>
 #include <sys/wait.h>
-
-extern char** environ;
+#include <unistd.h>
 #endif
 
 namespace workbench {

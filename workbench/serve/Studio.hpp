@@ -69,7 +69,7 @@ public:
     /// All that the page shows, as JSON.
     std::string const& state();
     /// Makes a change, given as JSON. Gives the revision after it.
-    std::uint64_t edit(std::string const& change);
+    std::uint64_t edit(std::string const& text);
 
     /// What a viewer shows.
     std::shared_ptr<Image const> picture(std::string const& viewer);
@@ -78,7 +78,7 @@ public:
     /// The present map of an object: as a part of a page, and the icon that the
     /// object drew at its last update, as a PNG file.
     std::string glass(std::string const& object);
-    std::string icon(std::string const& object);
+    std::string icon(std::string const& name);
     /// All entries as JSON, and the ramp of a map with its defaults as a PNG file.
     std::string const& catalogue();
     std::string ramp(std::string const& key);
@@ -120,7 +120,7 @@ private:
     void note(Step step, bool pictureMayDiffer);
     void noteChange();
     void noteNews();
-    Orlo::ColormapPtr mapOfObject(std::string const& object);
+    Orlo::ColormapPtr mapOfObject(std::string const& name);
     Refresh const& refresh();
     Json pluginsOf() const;
     void startWorld();

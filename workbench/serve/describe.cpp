@@ -151,15 +151,14 @@ private:
     /// What all nodes have.
     Json outline(string const& name, Meaning const& begin) const {
         auto const* const creation = std::get_if<CreationLine>(&begin);
-        auto const* const expected = std::get_if<ExpectedLine>(&begin);
         string const status = network_.attribute(name, "qTelm::Net::status");
         return {{"name", name},
-                {"key", creation != nullptr ? creation->key : expected->key},
+                {"key", creation != nullptr ? creation->key : std::get<ExpectedLine>(begin).key},
                 {"x", numberIn(network_.attribute(name, "qTelm::Net::x"))},
                 {"y", numberIn(network_.attribute(name, "qTelm::Net::y"))},
                 {"status", status.empty() ? "visible" : status.substr(0, status.find('{'))},
                 {"expertLevel", numberIn(network_.attribute(name, "qTelm::Net::ExpertLevel"))},
-                {"implicit", expected != nullptr},
+                {"implicit", creation == nullptr},
                 {"missing", false},
                 {"faults", complaintsAbout(name)}};
     }

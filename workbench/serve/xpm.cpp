@@ -42,7 +42,7 @@ std::optional<Image> readXpm(std::string const& text) {
     if (!isHead || !isSide(width) || !isSide(height) || count < 1 || count > 256 || length != 1)
         return std::nullopt;
     std::vector<std::string_view> const lines = Orlo::splitWords(text, '\n');
-    if (lines.size() != static_cast<std::size_t>(1 + count + height))
+    if (lines.size() != 1 + static_cast<std::size_t>(count) + static_cast<std::size_t>(height))
         return std::nullopt;
     std::array<std::optional<Rgba8>, 256> colors;
     auto line = lines.begin() + 1;

@@ -45,6 +45,7 @@ DescribedMap const description{{
             {"transparent stripes", {{"startcolor", "(0,0,0,0)"}}, 0.025, {0.25, 0.25, 0.25, 0.25}},
             {"wide stripes", {{"frequency", "0.7"}}, 0.9, {0.2857143, 0.2857143, 0.2857143, 1}},
             {"half a stripe of phase", {{"phase", "0.5"}}, 0.06, {0.1, 0.1, 0.1, 1}},
+            {"a quarter of a stripe of phase", {{"phase", "0.25"}}, 0.06, {0.35, 0.35, 0.35, 1}},
             {"below the phase", {{"phase", "0.5"}}, 0.02, {0.7, 0.7, 0.7, 1}},
             {"a whole stripe of phase changes nothing",
              {{"phase", "1"}, {"frequency", "0.25"}},
