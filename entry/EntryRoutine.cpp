@@ -1,5 +1,7 @@
 #include "entry/EntryRoutine.hpp"
 
+#include <optional>
+
 #include "host/creators/VInitialization.hpp"
 #include "host/creators/interface_token.hpp"
 
@@ -9,29 +11,27 @@ namespace {
 
 constexpr char ModuleName[] = TELM_MODULE;
 
-void tell(Orlo::VInitialization::InitPluginReason reason) {
-    Orlo::VInitialization::initPlugin(reason, ModuleName, Orlo::InterfaceToken);
+/// Why the loader calls, as the host counts: the numbers of attach and detach swap.
+std::optional<Orlo::VInitialization::InitPluginReason> hostReason(std::uint32_t reason) {
+    switch (reason) {
+    case ProcessDetach:
+        return Orlo::VInitialization::ProcessDetach;
+    case ProcessAttach:
+        return Orlo::VInitialization::ProcessAttach;
+    case ThreadAttach:
+        return Orlo::VInitialization::ThreadAttach;
+    case ThreadDetach:
+        return Orlo::VInitialization::ThreadDetach;
+    default:
+        return std::nullopt;
+    }
 }
 
 }  // namespace
 
 int entryRoutine(void*, std::uint32_t reason, void*) {
-    switch (reason) {  // the numbers of attach and detach swap between system and host
-    case ProcessDetach:
-        tell(Orlo::VInitialization::ProcessDetach);
-        break;
-    case ProcessAttach:
-        tell(Orlo::VInitialization::ProcessAttach);
-        break;
-    case ThreadAttach:
-        tell(Orlo::VInitialization::ThreadAttach);
-        break;
-    case ThreadDetach:
-        tell(Orlo::VInitialization::ThreadDetach);
-        break;
-    default:
-        break;
-    }
+    if (auto const told = hostReason(reason))
+        Orlo::VInitialization::initPlugin(*told, ModuleName, Orlo::InterfaceToken);
     return 1;
 }
 
