@@ -1,5 +1,5 @@
-/// What all these plug-ins have: one entry, `Colormaps/Grey`, that keeps the contract.
-/// Each source departs from it in one thing.
+/// What all these plug-ins have: a map, and objects that publish it, which keep the
+/// contract. Each source departs from them in one thing, or each of its entries in one.
 #pragma once
 
 #include <vector>
@@ -47,6 +47,15 @@ public:
 
 protected:
     TypedSlot<double> level{this, "level", 0.0, 0};
+};
+
+/// An entry of that name; the key may be anything.
+template <class Class>
+struct Entry : VSource<Class, ColormapPtr> {
+    Entry(char const* folder, char const* name, char const* tags = "General")
+        : VSource<Class, ColormapPtr>(
+              VCreatorProperties(NameIs(name), CategoryIs(folder), TagsAre(tags)), 0, nullptr,
+              false, InterfaceToken) {}
 };
 
 bool const valueTypes = registerValueTypes<double>();

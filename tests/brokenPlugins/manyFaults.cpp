@@ -12,15 +12,6 @@
 
 namespace {
 
-/// An entry of that name; the key may be anything.
-template <class Class>
-struct Entry : VSource<Class, ColormapPtr> {
-    Entry(char const* folder, char const* name, char const* tags = "General")
-        : VSource<Class, ColormapPtr>(
-              VCreatorProperties(NameIs(name), CategoryIs(folder), TagsAre(tags)), 0, nullptr,
-              false, InterfaceToken) {}
-};
-
 // --- While it is loaded
 
 #if defined(_WIN32)

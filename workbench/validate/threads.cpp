@@ -1,5 +1,8 @@
 /// Threads: consumers beside updates, pools beside pools.
+#include <array>
 #include <atomic>
+#include <barrier>
+#include <mutex>
 #include <thread>
 
 #include "workbench/platform/ownProcess.hpp"
@@ -34,51 +37,73 @@ std::vector<double> const& fewScalars() {
     return all;
 }
 
-/// Threads that do the same until the object goes.
+/// Does something on whatever thread it is called, and gives what went wrong; else empty.
+std::string problemOf(std::function<void()> const& work) {
+    try {
+        inOwnWords("", work);
+    } catch (Verdict const& verdict) {
+        return verdict.seen;
+    }
+    return {};
+}
+
+/// Threads that do the same until they are told to end, or one of them fails.
 class Crew {
 public:
     Crew(int count, std::function<void()> const& work) {
         for (int i = 0; i < count; ++i)
             threads_.emplace_back([this, work] {
-                while (!ends_.load(std::memory_order_relaxed)) {
-                    work();
-                    rounds_.fetch_add(1, std::memory_order_relaxed);
-                }
+                while (!ends_.load(std::memory_order_relaxed))
+                    goRound(work);
             });
     }
     Crew(Crew const&) = delete;
     Crew& operator=(Crew const&) = delete;
-    ~Crew() {
-        ends_.store(true, std::memory_order_relaxed);
+    ~Crew() { join(); }
+
+    /// Whether they have gone so many rounds together, or have ended.
+    bool hasGone(int rounds) const { return ends_ || rounds_ >= rounds; }
+
+    /// Ends them, and gives what went wrong; else empty.
+    std::string join() {
+        ends_ = true;
         for (std::thread& thread : threads_)
-            thread.join();
+            if (thread.joinable())
+                thread.join();
+        return problem_;
     }
-    int rounds() const { return rounds_.load(std::memory_order_relaxed); }
 
 private:
+    void goRound(std::function<void()> const& work) {
+        if (std::string const problem = problemOf(work); !problem.empty()) {
+            std::scoped_lock const lock(mutex_);
+            problem_ = problem;
+            ends_ = true;
+        }
+        rounds_.fetch_add(1, std::memory_order_relaxed);
+    }
+
     std::atomic<bool> ends_{false};
     std::atomic<int> rounds_{0};
+    std::mutex mutex_;
+    std::string problem_;
     std::vector<std::thread> threads_;
 };
 
-/// Runs the same on two threads, to its end.
-void onTwoThreads(std::function<void(int)> const& work) {
-    std::string seen;
-    std::thread other([&] {
-        try {
-            inOwnWords("", [&] { work(1); });
-        } catch (Verdict const& verdict) {
-            seen = verdict.seen;
-        }
-    });
-    std::string here;
-    try {
-        inOwnWords("", [&] { work(0); });
-    } catch (Verdict const& verdict) {
-        here = verdict.seen;
-    }
+/// Does the same on two threads, to its end. They begin together, so that neither is
+/// done before the other one has begun; from then on each goes at its own pace.
+void onTwoThreads(std::function<void(int which)> const& work) {
+    std::barrier start(2);
+    std::array<std::string, 2> problems;
+    auto const run = [&](int which) {
+        start.arrive_and_wait();
+        problems.at(static_cast<std::size_t>(which)) = problemOf([&] { work(which); });
+    };
+    std::thread other(run, 1);
+    run(0);
     other.join();
-    require(seen.empty() && here.empty(), seen.empty() ? here : seen);
+    for (std::string const& problem : problems)
+        require(problem.empty(), problem);
 }
 
 void setOther(VObject& object, bool other, PoolPtr const& pool) {
@@ -97,15 +122,16 @@ void readers(Trial& trial) {
         PoolPtr const pool = newPool();
         setOther(*object, false, pool);
         ColormapPtr const map = updated(*object, pool);
-        {
-            Crew const crew(readers, [&] { readBesideRewriting(*map, fewScalars()); });
-            for (int i = 0; i < rounds || crew.rounds() < readers; ++i) {
-                setOther(*object, i % 2 == 0, pool);
-                rewriteBesideReading(*object, pool);
-            }
+        Crew crew(readers, [&] { readBesideRewriting(*map, fewScalars()); });
+        for (int i = 0; i < rounds || !crew.hasGone(readers); ++i) {
+            setOther(*object, i % 2 == 0, pool);
+            rewriteBesideReading(*object, pool);
         }
+        // What the last update beside them has left is not mended by a quiet one.
         setOther(*object, true, pool);
-        forceUpdate(*object, pool);
+        rewriteBesideReading(*object, pool);
+        std::string const problem = crew.join();
+        require(problem.empty(), "beside an update, a lookup: " + problem);
         ObjectPtr const quietly = create(entry);
         PoolPtr const other = newPool();
         setOther(*quietly, true, other);
@@ -119,11 +145,15 @@ void pools(Trial& trial) {
     int const rounds = trial.times(50, 300, 3000);
     withMaps(trial, [&](WeakCreatorPtr const& entry, ObjectPtr const& shared) {
         Colours const expected = coloursOf(*updated(*shared, newPool()), fewScalars());
+        std::array const own{create(entry), create(entry)};
         onTwoThreads([&](int which) {
-            ObjectPtr const own = create(entry);
+            VObject& object = *own.at(static_cast<std::size_t>(which));
             for (int i = 0; i < rounds; ++i) {
-                setOther(*own, which == 1, nullptr);
-                updated(*own, newPool());
+                setOther(object, which == 1, nullptr);
+                // Now more often and now less, since two who wait for each other at the
+                // shared one would keep step for ever.
+                for (int k = 0; k <= i * (which + 1) % 3; ++k)
+                    updated(object, newPool());
                 std::string const change =
                     difference(*updated(*shared, newPool()), fewScalars(), expected);
                 require(change.empty(), change);
@@ -143,22 +173,31 @@ void creates(Trial& trial) {
     });
 }
 
-/// The last holder of a map is a consumer on a thread of its own.
+/// The last holder of a map is a consumer on a thread of its own, for which its colours
+/// are those that they were for the thread of the object.
 void lastHolder(Trial& trial) {
     int const rounds = trial.times(20, 100, 1000);
     withMaps(trial, [&](WeakCreatorPtr const& entry, ObjectPtr const&) {
         for (int i = 0; i < rounds; ++i) {
             ObjectPtr object = create(entry);
             auto held = std::make_unique<ColormapPtr>(updated(*object, newPool()));
+            Colours const expected = coloursOf(**held, fewScalars());
             std::atomic<bool> goes{false};
-            std::thread consumer([&goes, map = std::move(held)]() mutable {
-                while (!goes.load())
-                    readBesideRewriting(**map, fewScalars());
+            std::string problem;
+            std::thread consumer([&, map = std::move(held)]() mutable {
+                problem = problemOf([&] {
+                    std::string change;
+                    do
+                        change = difference(**map, fewScalars(), expected);
+                    while (change.empty() && !goes);
+                    require(change.empty(), "on another thread, " + change);
+                });
                 map.reset();
             });
             object = nullptr;
             goes = true;
             consumer.join();
+            require(problem.empty(), problem);
         }
     });
 }

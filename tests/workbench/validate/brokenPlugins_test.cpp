@@ -72,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(
                                "before the test was done")}),
     [](auto const& each) { return each.param.plugin; });
 
-// --- Each test alone, on a plug-in with an entry for each of many faults
+// --- Each test alone, on plug-ins with an entry for each of many faults
 
 /// Where a fault can be seen, or done.
 enum class Where { Everywhere, OnLinux, OnLinuxWithoutSanitizers };
@@ -81,6 +81,24 @@ struct Fault {
     std::string test;
     std::string seen;
     Where where = Where::Everywhere;
+    std::string plugin = {};
+};
+
+std::ostream& operator<<(std::ostream& out, Fault const& fault) {
+    return out << fault.test;
+}
+
+std::vector<Fault> faultsOf(std::string const& plugin, std::vector<Fault> faults) {
+    for (Fault& fault : faults)
+        fault.plugin = plugin;
+    return faults;
+}
+
+constexpr auto TestAsName = [](testing::TestParamInfo<Fault> const& each) {
+    std::string name = each.param.test;
+    for (char& c : name)
+        c = c == '/' || c == '-' ? '_' : c;
+    return name;
 };
 
 class ManyFaults : public testing::TestWithParam<Fault> {};
@@ -94,50 +112,57 @@ TEST_P(ManyFaults, AreEachSeenByTheirTest) {
 #endif
     if (!isHere)
         GTEST_SKIP() << "not to be seen, or not to be done, in this build";
-    Judgement const result = judged("manyFaults", {"--only", GetParam().test});
+    Judgement const result = judged(GetParam().plugin, {"--only", GetParam().test});
     EXPECT_THAT(result.against, named(GetParam().test, StartsWith("failed: " + GetParam().seen)));
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Plugins, ManyFaults,
-    testing::Values(
-        Fault{"file/no-thread", "1 thread more", Where::OnLinux},
-        Fault{"file/touches-nothing", "loading it has opened the file",
-              Where::OnLinuxWithoutSanitizers},
-        Fault{"file/quiet", ""},
-        Fault{"catalogue/keys", "Colormaps/ Blank : a part of the key has blanks"},
-        Fault{"catalogue/unique", "Colormaps/Twice: two entries"},
-        Fault{"catalogue/creates", "Colormaps/Twice: "},
-        Fault{"catalogue/texts", "Colormaps/Control: the tags"},
-        Fault{"catalogue/help", "Colormaps/Fickle help: "},
-        Fault{"catalogue/offers", "Colormaps/Twice: "},
-        Fault{"parameters/properties",
-              "Colormaps/Bad advice: parameter 'level': its min 2 is above"},
-        Fault{"parameters/random-settings", "Colormaps/Picky: "},
-        Fault{"parameters/at-the-ends", "Colormaps/Picky: with 'level=1': it throws 'too much'"},
-        Fault{"cycle/must-update", "Colormaps/Always due: "},
-        Fault{"cycle/idle", "Colormaps/Always due: "},
-        Fault{"cycle/pools", "Colormaps/One for all: two pools have one map"},
-        Fault{"cycle/age", "Colormaps/Never younger: "},
-        Fault{"cycle/copies", "Colormaps/No copy: "},
-        Fault{"map/answers", "Colormaps/Dumb: the lookup of"},
-        Fault{"map/locks-nothing", "Colormaps/Locking: ", Where::OnLinuxWithoutSanitizers},
-        Fault{"map/quiet", "Colormaps/Talking: "},
-        Fault{"map/whole-numbers", "Colormaps/Other bytes: getColorRGB"},
-        Fault{"map/facts", "Colormaps/Growing: "}, Fault{"map/arithmetic", "Colormaps/Rounding: "},
-        Fault{"memory/objects", "Colormaps/Leaky: "},
-        Fault{"memory/fail-create", "Colormaps/Leaky: ", Where::OnLinux},
-        Fault{"memory/fail-update", "Colormaps/Swallowing: allocation 1 fails: what passes out",
-              Where::OnLinux},
-        Fault{"memory/fail-next-update",
-              "Colormaps/Swallowing: allocation 1 fails: ", Where::OnLinux},
-        Fault{"threads/starts-none", ""}),
-    [](auto const& each) {
-        std::string name = each.param.test;
-        for (char& c : name)
-            c = c == '/' || c == '-' ? '_' : c;
-        return name;
-    });
+    testing::ValuesIn(faultsOf(
+        "manyFaults",
+        {Fault{"file/no-thread", "1 thread more", Where::OnLinux},
+         Fault{"file/touches-nothing", "loading it has opened the file",
+               Where::OnLinuxWithoutSanitizers},
+         Fault{"file/quiet", ""},
+         Fault{"catalogue/keys", "Colormaps/ Blank : a part of the key has blanks"},
+         Fault{"catalogue/unique", "Colormaps/Twice: two entries"},
+         Fault{"catalogue/creates", "Colormaps/Twice: "},
+         Fault{"catalogue/texts", "Colormaps/Control: the tags"},
+         Fault{"catalogue/help", "Colormaps/Fickle help: "},
+         Fault{"catalogue/offers", "Colormaps/Twice: "},
+         Fault{"parameters/properties",
+               "Colormaps/Bad advice: parameter 'level': its min 2 is above"},
+         Fault{"parameters/random-settings", "Colormaps/Picky: "},
+         Fault{"parameters/at-the-ends", "Colormaps/Picky: with 'level=1': it throws 'too much'"},
+         Fault{"cycle/must-update", "Colormaps/Always due: "},
+         Fault{"cycle/idle", "Colormaps/Always due: "},
+         Fault{"cycle/pools", "Colormaps/One for all: two pools have one map"},
+         Fault{"cycle/age", "Colormaps/Never younger: "},
+         Fault{"cycle/copies", "Colormaps/No copy: "},
+         Fault{"map/answers", "Colormaps/Dumb: the lookup of"},
+         Fault{"map/locks-nothing", "Colormaps/Locking: ", Where::OnLinuxWithoutSanitizers},
+         Fault{"map/quiet", "Colormaps/Talking: "},
+         Fault{"map/whole-numbers", "Colormaps/Other bytes: getColorRGB"},
+         Fault{"map/facts", "Colormaps/Growing: "},
+         Fault{"map/arithmetic", "Colormaps/Rounding: "},
+         Fault{"memory/objects", "Colormaps/Leaky: "},
+         Fault{"memory/fail-create", "Colormaps/Leaky: ", Where::OnLinux},
+         Fault{"memory/fail-update", "Colormaps/Swallowing: allocation 1 fails: what passes out",
+               Where::OnLinux},
+         Fault{"memory/fail-next-update",
+               "Colormaps/Swallowing: allocation 1 fails: ", Where::OnLinux},
+         Fault{"threads/starts-none", ""}})),
+    TestAsName);
+
+INSTANTIATE_TEST_SUITE_P(
+    OfThreads, ManyFaults,
+    testing::ValuesIn(faultsOf(
+        "faultyThreads",
+        {Fault{"threads/readers", "Colormaps/Hesitant: beside readers, the scalar 0.125 had"},
+         Fault{"threads/pools", "Colormaps/Scratched: the scalar 0.03125 had the colour"},
+         Fault{"threads/creates", "Colormaps/Jealous: it throws 'another one is being made'"},
+         Fault{"threads/last-holder", "Colormaps/Native: on another thread, the scalar 0 had"}})),
+    TestAsName);
 
 TEST(BrokenPlugins, AreWarnedOfWhereColoursAreNotFinite) {
     EXPECT_THAT(judged("manyFaults", {"--only", "map/finite"}).warnings,
