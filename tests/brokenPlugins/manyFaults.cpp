@@ -61,7 +61,24 @@ private:
 };
 Entry<Fickle> const fickle("Colormaps", "Fickle help");
 
+/// With a key that is nearly that of another entry.
+Entry<Plain> const near(" Colormaps", "Twice");
+
+class Unconcerned : public Plain {
+public:
+    Unconcerned(std::string const& name, int kind, PreferencesPtr const&)
+        : Plain(name, kind, nullptr) {}
+};
+Entry<Unconcerned> const unconcerned("Colormaps", "Unconcerned");
+
 // --- The parameters
+
+class Unreadable : public Plain {
+public:
+    using Plain::Plain;
+    TypedSlot<double> other{this, "the\tother", 0.0, 0};
+};
+Entry<Unreadable> const unreadable("Colormaps", "Unreadable");
 
 class BadAdvice : public Plain {
 public:
@@ -134,6 +151,50 @@ public:
     ObjectPtr copy() const override { return {}; }
 };
 Entry<NoCopy> const noCopy("Colormaps", "No copy");
+
+/// Knows none of its objects but the last.
+struct Forgetful : Entry<Plain> {
+    using Entry::Entry;
+    ObjectPtr create(std::string const& name, Nucleo::Intercube const& context,
+                     PreferencesPtr const& preferences) const override {
+        for (WeakObjectPtr const& object : instances())
+            removeInstance(*object);
+        return Entry::create(name, context, preferences);
+    }
+};
+Forgetful const forgetful("Colormaps", "Forgetful");
+
+/// Takes whatever map it finds for one of its own.
+class Careless : public Plain {
+public:
+    using Plain::Plain;
+    bool update(VRequest& request, double precision) override {
+        ColormapPtr map;
+        readParameter(*output(), request.pool(), map);
+        if (map)
+            level.read(request.pool(), static_cast<Grey*>(map.get())->level);
+        return Plain::update(request, precision);
+    }
+};
+Entry<Careless> const careless("Colormaps", "Careless");
+
+/// Shows the map of the first object of its name.
+class Namesake : public Plain {
+public:
+    using Plain::Plain;
+    bool update(VRequest& request, double precision) override {
+        ColormapPtr map;
+        for (WeakObjectPtr const& each : creator()->instances())
+            if (each.get() != this && each->Name() == Name())
+                readParameter(*dynamic_cast<Tincture&>(*each).output(), request.pool(), map);
+        if (!map)
+            return Plain::update(request, precision);
+        prism::OutputMap output(*this, request);
+        output.publishNow(map.get());
+        return true;
+    }
+};
+Entry<Namesake> const namesake("Colormaps", "Namesake");
 
 // --- The map
 
@@ -223,6 +284,25 @@ public:
     char* lost = new char[100];
 };
 Entry<Leaky> const leaky("Colormaps", "Leaky");
+
+/// Leaves some memory behind for each new value.
+class Hoarding : public Plain {
+public:
+    using Plain::Plain;
+    bool update(VRequest& request, double precision) override {
+        double now = 0;
+        level.read(request.pool(), now);
+        if (now != last_)
+            lost_ = new char[100];
+        last_ = now;
+        return Plain::update(request, precision);
+    }
+
+private:
+    double last_ = 0;
+    char* lost_ = nullptr;
+};
+Entry<Hoarding> const hoarding("Colormaps", "Hoarding");
 
 // --- Threads
 

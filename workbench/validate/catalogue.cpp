@@ -75,13 +75,9 @@ void wrongKeys(Trial& trial) {
         std::ranges::transform(other, other.begin(), [](unsigned char c) {
             return std::islower(c) != 0 ? std::toupper(c) : std::tolower(c);
         });
-        for (std::string const& wrong :
-             {std::string(), key + "x", key + '\0', key + "/", " " + key, other,
-              std::string(Megabyte, 'x'), key.substr(0, key.size() - 1)}) {
-            WeakCreatorPtr const found = findCreator(wrong);
-            require(!found || found->keyname("/") == wrong,
-                    "the key " + inQuotes(wrong) + " finds it too");
-        }
+        for (std::string const& wrong : {std::string(), key + '\0', key + "/", "/" + key, " " + key,
+                                         other, std::string(Megabyte, 'x')})
+            require(!findCreator(wrong), "the key " + inQuotes(wrong) + " finds an entry too");
     });
 }
 

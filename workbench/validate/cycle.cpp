@@ -1,4 +1,7 @@
 /// The life cycle: updates, pools, copies, and the end of objects and maps.
+#include <algorithm>
+#include <array>
+
 #include "workbench/platform/FailingAllocation.hpp"
 #include "workbench/validate/Host.hpp"
 #include "workbench/validate/colours.hpp"
@@ -16,15 +19,25 @@ std::vector<double> const& fewScalars() {
     return all;
 }
 
-/// A map that no object of the plug-in has made.
+/// A map that no object of the plug-in has made. Where others have their numbers it has
+/// some too, so that it is seen if somebody takes it for his own and writes into it.
 class ForeignMap : public Colormap {
 public:
+    ForeignMap() { numbers_.fill(Number); }
     int getMin() const override { return 0; }
     int getMax() const override { return 1; }
     int getSize() const override { return 2; }
-    rgba_float_t getColor(double) const override { return {0.25F, 0.5F, 0.75F, 1}; }
+    rgba_float_t getColor(double) const override {
+        bool const whole =
+            std::ranges::all_of(numbers_, [](double number) { return number == Number; });
+        return {0.25F, 0.5F, 0.75F, whole ? 1.0F : 0.0F};
+    }
     std::string getLabel() const override { return {}; }
     std::intptr_t getExtra() const override { return 0; }
+
+private:
+    static constexpr double Number = 0.375;
+    std::array<double, 128> numbers_;
 };
 
 /// Puts a map into the object's output for a pool.

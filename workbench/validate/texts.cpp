@@ -99,6 +99,24 @@ std::string randomFlags(std::string const& present, Trial& trial) {
     return text;
 }
 
+/// Texts of which every type takes one or the other, for a value that is written as the
+/// given one.
+std::vector<std::string> textsOfAnyType(std::string const& present) {
+    std::vector<std::string> texts{"0.25", "7", "(0.25,0.5,0.75,0.5)", "0.25,0.75", "0.5[0,1]@0.1"};
+    for (std::string const& word : choicesIn(present))
+        texts.push_back(word);
+    for (std::string const& word : flagsIn(present))
+        texts.insert(texts.end(), {word, "-" + word});
+    texts.insert(texts.end(), {"true", "false", "1", "another text"});
+    return texts;
+}
+
+/// For types that only the plug-in knows.
+std::string randomTextOfAnyType(std::string const& present, Trial& trial) {
+    std::vector<std::string> const texts = textsOfAnyType(present);
+    return texts[trial.below(static_cast<unsigned>(texts.size()))];
+}
+
 }  // namespace
 
 bool isUtf8(std::string_view text) {
@@ -134,7 +152,7 @@ std::string randomText(VParameter const& parameter, Trial& trial) {
     auto const min = numberIn(advice(parameter, "min"));
     auto const max = numberIn(advice(parameter, "max"));
     auto const number = [&] { return textOf(randomNumber(trial, min, max)); };
-    std::string text = present;
+    std::string text;
     if (type == typeid(double))
         text = number();
     else if (type == typeid(int))
@@ -151,6 +169,8 @@ std::string randomText(VParameter const& parameter, Trial& trial) {
         text = randomFlags(present, trial);
     else if (auto const words = choicesIn(present); !words.empty())
         text = words[trial.below(static_cast<unsigned>(words.size()))];
+    else
+        text = randomTextOfAnyType(present, trial);
     return takes(parameter, text) ? text : present;
 }
 
@@ -196,13 +216,7 @@ std::string otherText(VParameter const& parameter) {
     ValuePtr const standard = parameter.copyOfDefault(), other = parameter.copyOfDefault();
     if (!standard)
         return {};
-    std::vector<std::string> texts{"0.25", "7", "(0.25,0.5,0.75,0.5)", "0.25,0.75", "0.5[0,1]@0.1"};
-    for (std::string const& word : choicesIn(standard->text()))
-        texts.push_back(word);
-    for (std::string const& word : flagsIn(standard->text()))
-        texts.insert(texts.end(), {word, "-" + word});
-    texts.insert(texts.end(), {"true", "false", "1", "another text"});
-    for (std::string const& text : texts)
+    for (std::string const& text : textsOfAnyType(standard->text()))
         if (other->setFromText(text) && other->differs(standard))
             return text;
     return {};
