@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <limits>
 #include <regex>
 
 #include "runtime/lattice/PluginReports.hpp"
@@ -30,8 +31,13 @@ std::string joined(std::vector<std::string> const& names) {
     return text;
 }
 
-std::string counted(std::size_t count, std::string const& what) {
-    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+/// "1 entry", "2 entries".
+std::string counted(std::size_t count, std::string what) {
+    if (count != 1 && what.ends_with('y'))
+        what.replace(what.size() - 1, 1, "ies");
+    else if (count != 1)
+        what += what.ends_with("ch") ? "es" : "s";
+    return std::to_string(count) + " " + what;
 }
 
 // --- What is read from the file
@@ -222,11 +228,16 @@ void leavesNothing(Trial& trial) {
 void loadTime(Trial& trial) {
     using Clock = std::chrono::steady_clock;
     constexpr double Limit = 0.1;
-    auto const start = Clock::now();
-    withPlugin(trial, [](Host&) {});
-    double const seconds = std::chrono::duration<double>(Clock::now() - start).count();
-    if (seconds > Limit)
-        warn("loading and unloading took " + std::to_string(seconds) + " seconds");
+    constexpr int Tries = 3;  // of which the fastest counts, since others use the machine too
+    double fastest = std::numeric_limits<double>::infinity();
+    for (int i = 0; i < Tries; ++i) {
+        auto const start = Clock::now();
+        withPlugin(trial, [](Host&) {});
+        std::chrono::duration<double> const seconds = Clock::now() - start;
+        fastest = std::min(fastest, seconds.count());
+    }
+    if (fastest > Limit)
+        warn("loading and unloading took " + std::to_string(fastest) + " seconds");
 }
 
 void startsNoThread(Trial& trial) {

@@ -194,6 +194,9 @@ void failCreate(bool inPairs, Trial& trial) {
                           object = nullptr;
                           require(entry->instances().empty(),
                                   "the entry knows an object that was never made");
+                          work();
+                          require(bool(object), "at the next try it makes no object");
+                          object = nullptr;
                       }});
     });
     tell(points, trial);
