@@ -1,4 +1,4 @@
-/// Random texts for the value types.
+/// Random texts for the value types, those of saved networks among them.
 ///
 /// An accepted text, written and read again where the first one was, gives the
 /// same value; a refused one leaves the value as it was. One input is a run of
@@ -11,8 +11,11 @@
 #include <string>
 
 #include "host/values/VValueTrait.hpp"
+#include "runtime/lattice/TypeRegistry.hpp"
+#include "workbench/nodes/values.hpp"
 
 using namespace Orlo;
+using namespace workbench;
 
 namespace {
 
@@ -34,6 +37,15 @@ bool same(Range const& a, Range const& b) {
 bool same(VTime const& a, VTime const& b) {
     return same(a.value, b.value) && same(a.minimum, b.minimum) && same(a.maximum, b.maximum) &&
            same(a.step, b.step);
+}
+bool same(Point const& a, Point const& b) {
+    return same(a.x, b.x) && same(a.y, b.y) && same(a.z, b.z);
+}
+bool same(Box const& a, Box const& b) {
+    return same(a.min, b.min) && same(a.max, b.max);
+}
+bool same(Pair const& a, Pair const& b) {
+    return same(a.first, b.first) && same(a.second, b.second);
 }
 /// Any other type says itself what is equal.
 template <class T>
@@ -63,14 +75,29 @@ void check(T& value, std::string const& text) {
         fail("what was written reads as another value", text, written);
 }
 
-/// All texts of the input, one after the other, on one value.
-template <class T>
-void checkAll(T value, std::string const& input) {
+/// Calls a function with all texts of the input, one after the other.
+template <class Function>
+void forEachText(std::string const& input, Function const& function) {
     for (std::size_t start = 0; start <= input.size();) {
         std::size_t const end = std::min(input.find('\0', start), input.size());
-        check(value, input.substr(start, end - start));
+        function(input.substr(start, end - start));
         start = end + 1;
     }
+}
+
+/// All of them on one value.
+template <class T>
+void checkAll(T value, std::string const& input) {
+    forEachText(input, [&](std::string const& text) { check(value, text); });
+}
+
+/// The type that a text seems to be of reads it.
+void checkInferred(std::string const& text) {
+    std::string const type = inferType(text);
+    bool read = false;
+    auto const creator = findValueCreator(type);
+    if (!creator || !creator->create(text, read) || !read)
+        fail("the type that was inferred does not read the text", text, type);
 }
 
 Enum yesOrNo() {
@@ -114,6 +141,27 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         break;
     case 's':
         checkAll(std::string("text"), input);
+        break;
+    case 'b':
+        checkAll(true, input);
+        break;
+    case 'p':
+        checkAll(Point{0, 2.5, 1}, input);
+        break;
+    case 'P':
+        checkAll(Pair{1046, 650}, input);
+        break;
+    case 'x':
+        checkAll(Box{{0, 0, 0}, {1, 1, 1}}, input);
+        break;
+    case 'I':
+        checkAll(Identifier{"radialfield", "radialfield"}, input);
+        break;
+    case 'n':
+        checkAll(Nothing(), input);
+        break;
+    case '?':
+        forEachText(input, checkInferred);
         break;
     default:
         break;
