@@ -10,9 +10,10 @@ namespace {
 
 using Plain = Object<Grey>;
 
-/// Long enough for another thread to come between.
+/// Long enough for another thread to come between, and for a system that counts the time
+/// of sleep in milliseconds.
 void linger() {
-    std::this_thread::sleep_for(std::chrono::microseconds(200));
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
 }
 
 // --- A map that is rewritten by halves while somebody reads it

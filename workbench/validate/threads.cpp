@@ -1,7 +1,6 @@
 /// Threads: consumers beside updates, pools beside pools.
 #include <array>
 #include <atomic>
-#include <barrier>
 #include <mutex>
 #include <thread>
 
@@ -93,10 +92,11 @@ private:
 /// Does the same on two threads, to its end. They begin together, so that neither is
 /// done before the other one has begun; from then on each goes at its own pace.
 void onTwoThreads(std::function<void(int which)> const& work) {
-    std::barrier start(2);
+    std::atomic<int> missing{2};  // no std::barrier, some of which miss that all are there
     std::array<std::string, 2> problems;
     auto const run = [&](int which) {
-        start.arrive_and_wait();
+        for (--missing; missing > 0;)
+            std::this_thread::yield();
         problems.at(static_cast<std::size_t>(which)) = problemOf([&] { work(which); });
     };
     std::thread other(run, 1);
