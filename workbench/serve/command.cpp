@@ -68,7 +68,7 @@ string commandFor(CommandFiles const& files, Script const& file, Script const& p
     command += " run " + shellWord(files.network);
     for (auto const& [path, value] : now)
         if (auto const known = before.find(path); known == before.end() || known->second != value)
-            command.append(" --set ").append(shellWord(path + "=" + value));
+            command.append(" --set ").append(shellWord(string(path).append("=").append(value)));
     return command + " -o picture.png";
 }
 
