@@ -99,7 +99,7 @@ TEST(RecentTables, KnowABackgroundWithoutANumberByItsBits) {
 
 TEST(RecentTables, AreThoseAskedForLast) {
     RecentTables recent;
-    constexpr int Places = RecentTables::Places;
+    constexpr int Places = 4;
     for (int i = 0; i < Places; ++i)
         recent.keep(numbered(i), table());
     EXPECT_TRUE(recent.find(numbered(0))) << "now it is the latest";
@@ -111,9 +111,9 @@ TEST(RecentTables, AreThoseAskedForLast) {
 
 TEST(RecentTables, AreNotLong) {
     RecentTables recent;
-    recent.keep(request(), table(RecentTables::MostColors + 1));
+    recent.keep(request(), table(4097));
     EXPECT_EQ(recent.find(request()), std::nullopt);
-    recent.keep(request(), table(RecentTables::MostColors));
+    recent.keep(request(), table(4096));
     EXPECT_TRUE(recent.find(request()));
 }
 
