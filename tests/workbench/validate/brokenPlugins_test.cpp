@@ -59,6 +59,10 @@ struct Row {
     }
 };
 
+std::ostream& operator<<(std::ostream& out, Row const& row) {
+    return out << row.plugin;
+}
+
 constexpr auto PluginAsName = [](testing::TestParamInfo<Row> const& each) {
     return each.param.plugin;
 };
