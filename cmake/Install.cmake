@@ -65,5 +65,6 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/prism_host-config.cmake
               cmake/Plugin.cmake cmake/Linking.cmake
   DESTINATION ${package}/cmake COMPONENT development)
 
-# A whole plug-in to start from.
+# The page that begins with a plug-in in ten minutes, and whole ones to start from.
+install(FILES docs/new-map.md DESTINATION share/prism_host COMPONENT development)
 install(DIRECTORY docs/samples/ DESTINATION share/prism_host/samples COMPONENT development)
