@@ -58,6 +58,37 @@ TEST(ColormapValues, CopiedShareTheMap) {
     EXPECT_TRUE(copy->differs(value));
 }
 
+/// A value that gives no map.
+class Silent : public ColormapValue {
+public:
+    bool getValue(ColormapPtr&) const override { return false; }
+};
+
+TEST(ColormapValues, AreAssignedFromOnesThatGiveAMapOnly) {
+    ColormapPtr const map = new Black;
+    StrongPtr<ColormapValue, VValueBase> const value = new ColormapValue(map);
+    StrongPtr<ColormapValue, VValueBase> const taker = new ColormapValue;
+    EXPECT_TRUE(taker->assign(value));
+    EXPECT_FALSE(taker->differs(value));
+    for (ValuePtr const& other :
+         {ValuePtr(), ValuePtr(new VValue<double>(1)), ValuePtr(new Silent)}) {
+        EXPECT_FALSE(taker->assign(other));
+        EXPECT_TRUE(taker->differs(other));
+    }
+    EXPECT_FALSE(taker->differs(value)) << "it has kept its map";
+}
+
+TEST(SlotsOfColormaps, HaveTheAgeOfAForeignKindOfValueAlone) {
+    ColormapPtr const map = new Black;
+    StrongPtr<VValue<ColormapPtr>, VValueBase> const plain = new VValue<ColormapPtr>(map);
+    ParameterPtr const parameter = new VValueParameter<ColormapPtr>(plain, "colormap");
+    SlotPtr const slot = new VSlot("colormap", 0, parameter, true);
+    parameter->touch();
+    Nucleo::Ageable::Stamp const age = slot->age(nullptr);
+    map->touch();
+    EXPECT_EQ(slot->age(nullptr), age) << "its map is not asked";
+}
+
 TEST(ColormapValues, AreReadFromNoText) {
     StrongPtr<ColormapValue, VValueBase> const value = new ColormapValue(new Black);
     EXPECT_FALSE(value->setFromText("A Colormap Object."));

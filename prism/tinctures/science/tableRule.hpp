@@ -21,18 +21,24 @@ template <std::size_t N>
 using ColorTable = std::array<Tessar::rgba_float_t, N>;
 
 /// Truncates towards zero. A number that fits no 32-bit integer, NaN included,
-/// gives the most negative one, also where the compiler knows the number.
+/// gives the most negative one.
+constexpr std::int32_t truncatedByRule(double x) noexcept {
+    return x > -2147483649.0 && x < 2147483648.0 ? static_cast<std::int32_t>(x)
+                                                 : std::numeric_limits<std::int32_t>::min();
+}
+
+/// The same by the one instruction of the processor that answers so for every input,
+/// where there is one. The answers do not depend on what the compiler knows.
 constexpr std::int32_t truncated(double x) noexcept {
 #if defined(__SSE2__)
     if (!std::is_constant_evaluated()) {
-        // One instruction, which answers so for every input. The compiler must not
-        // see a constant in it: gcc would fold infinity and NaN otherwise.
+        // The compiler must not see a constant here: gcc would fold infinity and NaN
+        // otherwise.
         asm("" : "+x"(x));
         return _mm_cvttsd_si32(_mm_set_sd(x));
     }
 #endif
-    return x > -2147483649.0 && x < 2147483648.0 ? static_cast<std::int32_t>(x)
-                                                 : std::numeric_limits<std::int32_t>::min();
+    return truncatedByRule(x);
 }
 
 /// The row of the truncated number, clamped to the table.

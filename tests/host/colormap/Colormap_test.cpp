@@ -24,6 +24,12 @@ static_assert(std::is_base_of_v<FixedArray<float, 4>, rgba_float_t>);
 static_assert(std::is_base_of_v<DomainFunctions<RGBA, Column<4, float>>, rgba_float_t>);
 static_assert(std::is_base_of_v<RGB, RGBA>);
 
+TEST(Colour, EqualsAnotherIfAllFourComponentsDo) {
+    EXPECT_EQ(rgba_float_t(0.25, 0.5, 0.75, 1), rgba_float_t(0.25, 0.5, 0.75, 1));
+    EXPECT_NE(rgba_float_t(0.25, 0.5, 0.75, 1), rgba_float_t(0.25, 0.5, 0.75, 0));
+    EXPECT_NE(rgba_float_t(0.25, 0.5, 0.75, 1), rgba_float_t(0, 0.5, 0.75, 1));
+}
+
 TEST(Colour, HoldsRedGreenBlueAlphaInThisOrder) {
     rgba_float_t const colour{0.25, 0.5, 0.75, 1};
     float words[4];

@@ -9,6 +9,7 @@
 
 #include "host/creators/VSource.hpp"
 #include "host/object/Tincture.hpp"
+#include "host/values/TypedSlot.hpp"
 #include "runtime/lattice/Catalogue.hpp"
 #include "tests/support/DiagnosticText.hpp"
 #include "tests/support/objects.hpp"
@@ -211,6 +212,46 @@ TEST_F(Creators, WhoseWarningThrowsAreUnwound) {
     EXPECT_THROW(Entry("Same"), std::runtime_error);
     GetCapturedStdout();
     EXPECT_EQ(keys(), before);
+}
+
+TEST_F(Creators, TakenOutOfATypeThatHasNoneChangeNothing) {
+    Entry entry;
+    unregisterVInput(typeid(Made), WeakInputCreatorPtr(&entry));
+    EXPECT_TRUE(inputCreators(typeid(Made)).empty());
+    EXPECT_EQ(findCreator("Tests/Tint").get(), &entry);
+}
+
+TEST_F(Creators, ThatAreNoneAreEnteredOnce) {
+    EXPECT_TRUE(registerVInput(typeid(Made), nullptr));
+    EXPECT_FALSE(registerVInput(typeid(Made), nullptr));
+    unregisterVInput(typeid(Made), nullptr);
+    EXPECT_TRUE(inputCreators(typeid(Made)).empty());
+}
+
+// --- Copies
+
+/// With an input.
+class Wide : public Tincture {
+public:
+    Wide(std::string const& name, int, PreferencesPtr const& preferences)
+        : Tincture(name, 0, preferences, "colormap") {}
+    bool update(VRequest&, double) override { return true; }
+
+    TypedSlot<double> width{this, "width", 1.0, 0};
+};
+
+TEST_F(Creators, MakeCopiesWithTheValuesOfThoseInputsThatBothHave) {
+    registerValueTypes<double>();
+    VSource<Wide, ColormapPtr> const entry(properties("Wide"), 5, nullptr, false, InterfaceToken);
+    ObjectPtr const object = entry.create("", Nucleo::Intercube(), nullptr);
+    object->slot("width")->ownParameter()->setGlobalValue(new VValue<double>(3), nullptr);
+    TypedSlot<double> const added(object.get(), "added", 5.0, 0);
+    ObjectPtr const copy = object->copy();
+    ASSERT_TRUE(copy);
+    double width = 0;
+    EXPECT_TRUE(readParameter(*copy->slot("width")->ownParameter(), nullptr, width));
+    EXPECT_EQ(width, 3);
+    EXPECT_FALSE(copy->slot("added")) << "an input that only the object has";
 }
 
 // --- create

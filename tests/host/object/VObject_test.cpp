@@ -145,6 +145,13 @@ TEST(Object, KeepsTheKindThatItWasMadeWith) {
     EXPECT_EQ(NodePtr(new Kind(7))->kind(), 7);
 }
 
+TEST(Object, LosesItsCreatorToNone) {
+    NodePtr const node = new Node;
+    node->setCreator(nullptr);
+    EXPECT_FALSE(node->creator());
+    EXPECT_EQ(node->type_key(), "");
+}
+
 TEST(Object, HasNoIconHelpStateOrOwnerOfItsOwn) {
     NodePtr const node = new Node("name");
     EXPECT_EQ(node->Name(), "name");

@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <thread>
+#include <vector>
 
 #include "host/object/VObject.hpp"
 #include "tests/host/object/Node.hpp"
@@ -359,6 +361,19 @@ TEST_F(Requests, RefuseAConnectionThatLacksASlot) {
     EXPECT_FALSE(in->provider());
 }
 
+TEST_F(Requests, RefuseAConnectionOfParametersWithoutADefault) {
+    ParameterPtr const bare = new VValueParameter<double>(nullptr, "bare");
+    SlotPtr const slot = VSlotGlobals::addParameter(nullptr, "bare", 0, bare, true);
+    EXPECT_FALSE(first_->allowParameterReplacement(slot, second_->slot("out")->parameter()));
+    EXPECT_FALSE(first_->allowParameterReplacement(first_->slot("in"), bare));
+}
+
+TEST_F(Requests, VisitTheOutputsAlone) {
+    std::vector<std::string> names;
+    first_->iterateOutputs([&](SlotPtr const& slot) { names.push_back(slot->name()); });
+    EXPECT_EQ(names, std::vector<std::string>{"out"});
+}
+
 TEST_F(Requests, LetAConnectionGiveWayToAnother) {
     connect(*third_, *first_);
     connect(*third_, *second_);
@@ -367,6 +382,30 @@ TEST_F(Requests, LetAConnectionGiveWayToAnother) {
     EXPECT_EQ(in->provider().get(), second_.get()) << "the former provider takes nothing with it";
     second_ = nullptr;
     EXPECT_EQ(in->parameter().get(), in->ownParameter().get());
+}
+
+TEST_F(Requests, KeepAConnectionThatAnotherObjectTakesBack) {
+    connect(*third_, *first_);
+    SlotPtr const in = third_->slot("in");
+    in->disconnectFrom(*second_);
+    EXPECT_EQ(in->provider().get(), first_.get());
+    in->disconnectFrom(*first_);
+    EXPECT_FALSE(in->isConnected());
+}
+
+TEST_F(Requests, ReadAParameterThatNoObjectProvides) {
+    StrongPtr<VValue<double>, VValueBase> const value = new VValue<double>(4.0);
+    first_->slot("in")->connect(new VValueParameter<double>(value, "loose"), nullptr);
+    EXPECT_TRUE(ask(*first_, pool_));
+    EXPECT_EQ(first_->result(pool_), 8);
+}
+
+TEST_F(Requests, AnswerTheSameRequestOnce) {
+    VRequest request(pool_);
+    EXPECT_TRUE(first_->request(request, 0.5, nullptr, nullptr));
+    first_->in.slot()->ownParameter()->touch();
+    EXPECT_TRUE(first_->request(request, 0.5, nullptr, nullptr));
+    EXPECT_EQ(first_->updates, 1);
 }
 
 TEST_F(Requests, FindTheOwnParameterAgainWhenTheProviderIsGone) {
@@ -397,6 +436,25 @@ TEST_F(Requests, KeepSlotsInTheirOrderAndReplaceThoseOfTheSameName) {
     EXPECT_EQ(node->slots()[1]->name(), "out");
     EXPECT_FALSE(node->slot("no such slot"));
     EXPECT_EQ(inputs(*node).size(), 1u);
+}
+
+TEST_F(Requests, FindTheAgeOfTheOwnValueWhereAParameterIsNotMarkedForPools) {
+    SlotPtr const in = first_->slot("in");
+    ParameterPtr const parameter = in->ownParameter();
+    ValuePtr const local = parameter->getLocalValue(pool_, "", true);
+    local->ageable()->touch();
+    EXPECT_EQ(in->age(pool_), local->ageable()->age());
+    parameter->flags = 0;
+    EXPECT_EQ(in->age(pool_), parameter->ownValue()->ageable()->age());
+}
+
+TEST_F(Requests, FindNoAgeWhereNoValueStands) {
+    ParameterPtr const bare = new VValueParameter<double>(nullptr, "bare");
+    SlotPtr const slot = VSlotGlobals::addParameter(nullptr, "bare", 0, bare, true);
+    Ageable::Stamp const before = slot->age(pool_);
+    bare->touch();
+    EXPECT_EQ(slot->age(pool_), before) << "there is nothing to stamp";
+    EXPECT_LT(before, Ageable::now()) << "but the time goes on";
 }
 
 TEST_F(Requests, AcceptAnObjectOnceForEachInput) {

@@ -112,6 +112,13 @@ TEST(WeakPointer, CountsWeakOnly) {
     EXPECT_EQ(weak.get(), strong.get());
 }
 
+TEST(WeakPointer, ToNoObjectIsEmpty) {
+    Root* const none = nullptr;
+    WeakRoot const weak(none);
+    EXPECT_FALSE(weak);
+    EXPECT_EQ(weak.controlBlock(), nullptr);
+}
+
 TEST(StrongPointer, AssignedLetsGoOfTheFormerObject) {
     int deaths = 0;
     StrongRoot pointer(new Root(&deaths));

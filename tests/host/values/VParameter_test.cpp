@@ -181,6 +181,15 @@ TEST(ParameterName, IsUniqueForEachParameter) {
     EXPECT_EQ(first->localName(), second->localName());
 }
 
+TEST(ParameterCopy, RemembersThePoolsOfTheFormer) {
+    auto const parameter = doubleParameter(1);
+    PoolPtr const place = pool();
+    parameter->poolVariable(place);
+    ParameterPtr const twin = parameter->copy();
+    ASSERT_EQ(twin->shadows().size(), 1u);
+    EXPECT_EQ(twin->shadows().front().get(), place.get());
+}
+
 TEST(DyingParameter, TakesItsValuesOutOfAllPools) {
     PoolPtr const values = pool();
     {

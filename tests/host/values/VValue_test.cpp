@@ -100,6 +100,20 @@ TYPED_TEST(Value, DiffersFromAnotherValueAnotherTypeAndNothing) {
     EXPECT_TRUE(this->first_->differs(nullptr));
 }
 
+/// A value that gives nothing.
+template <class T>
+class Silent : public VValue<T> {
+public:
+    bool getValue(T&) const override { return false; }
+};
+
+TYPED_TEST(Value, DiffersFromOneThatGivesNothingAndTakesNothingFromIt) {
+    ValuePtr const silent = new Silent<TypeParam>;
+    EXPECT_TRUE(this->first_->differs(silent));
+    EXPECT_FALSE(this->first_->assign(silent));
+    EXPECT_TRUE(this->valueOf(this->first_) == Sample<TypeParam>::first());
+}
+
 TYPED_TEST(Value, ReadsBackWhatItWrites) {
     this->second_->assign(this->first_);
     this->first_->setValue(Sample<TypeParam>::second());

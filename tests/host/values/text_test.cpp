@@ -175,6 +175,15 @@ TEST(TextOfEnum, WhoseChosenWordIsEmptyReadsBack) {
     EXPECT_TRUE(known.Equal(""));
 }
 
+TEST(TextOfEnum, OfNoWordsIsEmptyForAListOfNone) {
+    Enum value = Enum::Selection(new VEnumSelection);
+    ASSERT_TRUE(value);
+    EXPECT_EQ(VValueTrait<Enum>::Text(value), "");
+    EXPECT_TRUE(VValueTrait<Enum>::setValueFromText(value, ""));
+    EXPECT_FALSE(VValueTrait<Enum>::setValueFromText(value, "word"));
+    EXPECT_TRUE(value->empty());
+}
+
 TEST(TextOfFlagList, HasTheSeparatorThatTheListWasMadeWith) {
     FlagList const flags("my flag;-other", ';');
     EXPECT_EQ(flags.separator(), ';');
@@ -215,9 +224,9 @@ TEST(TextOfTime, IsTheTimeItsRangeAndTheStep) {
     EXPECT_TRUE(VValueTrait<VTime>::setValueFromText(time, "0[0,1]@0.1"));
     EXPECT_EQ(time.step, 0.1);
     EXPECT_EQ(VValueTrait<VTime>::Text(time), "0[0,1]@0.1");
-    expectBad<VTime>(
-        {"", "0", "0[0,1]", "0[0,1]@", "0(0,1)@0.1", "0[0;1]@0.1", "0[0,1]@0.1 ", "[0,1]@0.1"},
-        time);
+    expectBad<VTime>({"", "0", "0[0,1]", "0[0,1]@", "0(0,1)@0.1", "0[0;1]@0.1", "0[0,1]@0.1 ",
+                      "[0,1]@0.1", "0[,1]@0.1", "0[0,]@0.1", "0[0,1)@0.1"},
+                     time);
 }
 
 // --- Round trips of random values

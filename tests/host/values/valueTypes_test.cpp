@@ -77,6 +77,7 @@ TEST(FlagListFromText, SplitsAtTheSeparatorAndReadsALeadingMinusAsOff) {
     EXPECT_EQ(FlagList("-inverse", ' ').size(), 1u);
     EXPECT_TRUE(FlagList("", ' ').empty());
     EXPECT_TRUE(FlagList("  ", ' ').empty());
+    EXPECT_EQ(FlagList("- wide", ' ').size(), 1u) << "a minus alone names no flag";
 }
 
 TEST(FlagListQuery, GivesTheFlagAndLeavesTheBoolAloneForAnUnknownOne) {
@@ -101,6 +102,12 @@ TEST(RangeAsAFunction, IsLinearFromMinimumToMaximum) {
     EXPECT_EQ(Range()(0.25), 0.25) << "0 to 1 at first";
     Nucleo::Functor const& function = range;
     EXPECT_EQ(function(0.5), 3) << "through the base";
+}
+
+TEST(Ranges, AreEqualIfBothEndsAre) {
+    EXPECT_EQ(Range(0, 1), Range(0, 1));
+    EXPECT_NE(Range(0, 1), Range(0, 2));
+    EXPECT_NE(Range(0, 1), Range(2, 1));
 }
 
 TEST(TimeValue, HasItsThreeConstructors) {

@@ -66,6 +66,13 @@ TEST(Truncated, OfAVariableGivesTheLowestIntegerForWhatFitsNone) {
     }
 }
 
+TEST(Truncated, FollowsTheRuleThatItIsWrittenDownAs) {
+    for (Truncation const& each : Truncations) {
+        double const volatile hidden = each.number;
+        EXPECT_EQ(truncatedByRule(hidden), each.integer) << each.number;
+    }
+}
+
 TEST(Truncated, GivesTheSameWhileCompiling) {
     constexpr bool allRight = [] {
         for (Truncation const& each : Truncations)
