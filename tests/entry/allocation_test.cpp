@@ -7,7 +7,6 @@
 #include <new>
 
 #include "host/creators/VSource.hpp"
-#include "prism/tinctures/science/distinctColors.hpp"
 #include "runtime/lattice/Catalogue.hpp"
 #include "tests/support/DiagnosticText.hpp"
 #include "tests/support/PluginTest.hpp"
@@ -272,32 +271,6 @@ INSTANTIATE_TEST_SUITE_P(Modes, Allocation,
                          testing::Values(Row{"Once", Failing::Once},
                                          Row{"FromThenOn", Failing::FromThen}),
                          [](auto const& row) { return row.param.name; });
-
-/// Nobody waits for them here: they fail for want of memory before they begin.
-TEST(DistinctColors, AreSelectedUpToTheGreatestNumberThatIsNotRefused) {
-    struct {
-        char const* rule;
-        int count, steps;
-    } const table[] = {{"as many colours as fill two gigabytes", 1 << 27, 0},
-                       {"as much work as some seconds", 250'000, 200}};
-    for (auto const& each : table) {
-        prism::DistinctRequest request{each.count, each.steps, Orlo::Enum(), {}, {}};
-        bool begun = false;
-        {
-            FailingAllocation const failing(1, Failing::FromThen);
-            try {
-                static_cast<void>(prism::distinctColors(request));
-            } catch (std::bad_alloc const&) {
-                begun = true;
-            } catch (std::length_error const&) {
-            }
-        }
-        EXPECT_TRUE(begun) << each.rule;
-        ++request.count;
-        EXPECT_THROW(static_cast<void>(prism::distinctColors(request)), std::length_error)
-            << each.rule;
-    }
-}
 
 }  // namespace
 }  // namespace tests

@@ -108,17 +108,11 @@ Response png(string body) {
 
 Response pixels(Studio& studio, string const& viewer) {
     std::shared_ptr<Image const> const image = studio.picture(viewer);
-    std::optional<string> runs = pixelRuns(*image);
-    Response response{.type = "application/octet-stream",
-                      .headers = {{"X-Form", runs ? "runs" : "pixels"},
-                                  {"X-Width", std::to_string(image->width())},
-                                  {"X-Height", std::to_string(image->height())},
-                                  {"X-Revision", std::to_string(studio.revision())}}};
-    if (runs)
-        response.body = *std::move(runs);
-    else
-        response.pixels = image;
-    return response;
+    return {.type = "application/octet-stream",
+            .headers = {{"X-Width", std::to_string(image->width())},
+                        {"X-Height", std::to_string(image->height())},
+                        {"X-Revision", std::to_string(studio.revision())}},
+            .body = pixelRuns(*image)};
 }
 
 /// A name as it may stand in a header.
@@ -185,13 +179,6 @@ std::optional<Response> pageFile(string_view path) {
 }
 
 }  // namespace
-
-string_view Response::bytes() const {
-    if (!pixels)
-        return body;
-    return {reinterpret_cast<char const*>(pixels->pixels().data()),
-            pixels->pixels().size() * sizeof(Rgba8)};
-}
 
 Response errorResponse(unsigned status, string const& reason) {
     return {.status = status, .type = JsonType, .body = textOf(Json{{"error", reason}})};

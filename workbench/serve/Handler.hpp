@@ -29,10 +29,6 @@ struct Response {
     std::string type = {};
     std::vector<std::pair<std::string, std::string>> headers = {};
     std::string body = {};
-    std::shared_ptr<Image const> pixels = {};  ///< in the place of the body, if there are any
-
-    /// The bytes that follow the headers.
-    std::string_view bytes() const;
 };
 
 /// An answer that is an error, as JSON.

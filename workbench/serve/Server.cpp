@@ -166,8 +166,7 @@ private:
             message_->set(name, value);
         if (!response_.type.empty())
             message_->set(http::field::content_type, response_.type);
-        std::string_view const bytes = response_.bytes();
-        message_->body() = beast::span<char const>(bytes.data(), bytes.size());
+        message_->body() = beast::span<char const>(response_.body.data(), response_.body.size());
         message_->prepare_payload();
         stream_.expires_after(server_.limits.answer);
         http::async_write(stream_, *message_,

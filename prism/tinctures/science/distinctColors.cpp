@@ -26,27 +26,6 @@ void refuse(std::string const& reason) {
     throw std::length_error(reason);
 }
 
-/// How many of the colours have to be looked for: a grid has no more than its points.
-std::size_t picksOf(std::size_t count, int steps) {
-    std::size_t const edge = vectorSize(steps);
-    if (steps > MostSteps)
-        refuse("'RGB Steps' is greater than " + std::to_string(MostSteps));
-    double const points = static_cast<double>(edge * edge * edge);
-    std::size_t const picks = std::min(count, edge * edge * edge);
-    if (static_cast<double>(picks) * points > MostWork)
-        refuse("'Number of Colors' is greater than " +
-               std::to_string(static_cast<std::size_t>(MostWork / points)) + ", the most of " +
-               std::to_string(steps) + " 'RGB Steps'");
-    return picks;
-}
-
-std::size_t checkedCount(int count) {
-    std::size_t const size = vectorSize(count);
-    if (count > MostColors)
-        refuse("'Number of Colors' is greater than " + std::to_string(MostColors));
-    return size;
-}
-
 RgbTriple widened(rgba_float_t const& color) {
     return {color.red(), color.green(), color.blue()};
 }
@@ -57,10 +36,25 @@ rgba_float_t narrowed(RgbTriple const& color) {
 
 }  // namespace
 
+std::size_t picksOf(DistinctRequest const& request) {
+    std::size_t const count = vectorSize(request.count);
+    if (request.count > MostColors)
+        refuse("'Number of Colors' is greater than " + std::to_string(MostColors));
+    std::size_t const edge = vectorSize(request.steps);
+    if (request.steps > MostSteps)
+        refuse("'RGB Steps' is greater than " + std::to_string(MostSteps));
+    double const points = static_cast<double>(edge * edge * edge);
+    std::size_t const picks = std::min(count, edge * edge * edge);
+    if (static_cast<double>(picks) * points > MostWork)
+        refuse("'Number of Colors' is greater than " +
+               std::to_string(static_cast<std::size_t>(MostWork / points)) + ", the most of " +
+               std::to_string(request.steps) + " 'RGB Steps'");
+    return picks;
+}
+
 std::vector<rgba_float_t> distinctColors(DistinctRequest const& request) {
-    std::size_t const count = checkedCount(request.count);
-    std::size_t const picks = picksOf(count, request.steps);
-    std::vector<rgba_float_t> colors(count);
+    std::size_t const picks = picksOf(request);
+    std::vector<rgba_float_t> colors(static_cast<std::size_t>(request.count));
     if (picks == 0)
         return colors;
     RgbGrid const grid(request.steps);

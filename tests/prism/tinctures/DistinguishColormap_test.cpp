@@ -223,6 +223,21 @@ TEST_F(DistinguishColormap, RefusesNothingThatIsQuick) {
     EXPECT_EQ(refusal({{"RGB Steps", "1290"}, {"Number of Colors", "0"}}), "no refusal");
 }
 
+TEST_F(DistinguishColormap, RefusesNothingUpToItsBounds) {
+    struct {
+        char const* rule;
+        int count, steps;
+        std::size_t picks;
+    } const table[] = {{"as many colours as fill two gigabytes", 1 << 27, 0, 0},
+                       {"as much work as some seconds", 250'000, 200, 250'000}};
+    for (auto const& each : table) {
+        prism::DistinctRequest request{each.count, each.steps, Orlo::Enum(), {}, {}};
+        EXPECT_EQ(prism::picksOf(request), each.picks) << each.rule;
+        ++request.count;
+        EXPECT_THROW(static_cast<void>(prism::picksOf(request)), std::length_error) << each.rule;
+    }
+}
+
 TEST_F(DistinguishColormap, KeepsItsMapWhenItRefuses) {
     Orlo::ObjectPtr const object = create("Colormaps/MaxDistinguishableColors");
     Orlo::PoolPtr const pool = makePool();

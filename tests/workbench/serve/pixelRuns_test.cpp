@@ -8,7 +8,6 @@ namespace {
 
 constexpr Rgba8 Orange{255, 128, 0, 255};
 constexpr Rgba8 Blue{0, 0, 255, 255};
-constexpr char const* OrangeBytes = "\xFF\x80\0\xFF";
 
 Image row(std::vector<Rgba8> const& pixels) {
     Image image(static_cast<int>(pixels.size()), 1);
@@ -17,30 +16,61 @@ Image row(std::vector<Rgba8> const& pixels) {
     return image;
 }
 
-TEST(PixelRuns, AreANumberAndAPixelEach) {
-    std::string const expected = std::string("\3\0\0\0", 4) + std::string(OrangeBytes, 4) +
-                                 std::string("\2\0\0\0\0\0\xFF\xFF", 8);
-    EXPECT_EQ(pixelRuns(row({Orange, Orange, Orange, Blue, Blue})), expected);
+/// A number and pixels, as they are sent.
+std::string sent(std::uint32_t number, std::vector<Rgba8> const& pixels) {
+    std::string bytes;
+    for (int shift = 0; shift < 32; shift += 8)
+        bytes += static_cast<char>(number >> shift & 0xFF);
+    for (Rgba8 const& each : pixels)
+        bytes.append(each.begin(), each.end());
+    return bytes;
 }
 
-TEST(PixelRuns, GoOnFromRowToRowAndAbove255) {
-    EXPECT_EQ(pixelRuns(Image(300, 300, Orange)),  // 90,000 is 0x15F90
-              std::string("\x90\x5F\1\0", 4) + std::string(OrangeBytes, 4));
+constexpr std::uint32_t AsTheyAre = 0x80000000;
+
+TEST(PixelRuns, AreANumberAndAPixelOrANumberOfPixels) {
+    struct {
+        char const* rule;
+        std::vector<Rgba8> pixels;
+        std::string expected;
+    } const table[] = {
+        {"a run", {Orange, Orange, Orange}, sent(3, {Orange})},
+        {"two runs",
+         {Orange, Orange, Orange, Blue, Blue, Blue, Blue},
+         sent(3, {Orange}) + sent(4, {Blue})},
+        {"a single pixel", {Orange}, sent(AsTheyAre + 1, {Orange})},
+        {"two are no run", {Orange, Orange}, sent(AsTheyAre + 2, {Orange, Orange})},
+        {"no runs",
+         {Orange, Blue, Orange, Orange, Blue},
+         sent(AsTheyAre + 5, {Orange, Blue, Orange, Orange, Blue})},
+        {"a run between others",
+         {Blue, Orange, Orange, Orange, Blue, Blue},
+         sent(AsTheyAre + 1, {Blue}) + sent(3, {Orange}) + sent(AsTheyAre + 2, {Blue, Blue})},
+    };
+    for (auto const& each : table)
+        EXPECT_EQ(pixelRuns(row(each.pixels)), each.expected) << each.rule;
+}
+
+TEST(PixelRuns, GoOnFromRowToRow) {
+    EXPECT_EQ(pixelRuns(Image(300, 300, Orange)), sent(90000, {Orange}));
 }
 
 TEST(PixelRuns, TellPixelsApartThatDifferInOneComponent) {
     for (std::size_t i = 0; i < 4; ++i) {
         Rgba8 other = Orange;
         other[i] ^= 1;
-        EXPECT_EQ(pixelRuns(row({Orange, Orange, Orange, other, other}))->size(), 16U) << i;
+        EXPECT_EQ(pixelRuns(row({Orange, Orange, Orange, other, other, other})),
+                  sent(3, {Orange}) + sent(3, {other}))
+            << i;
     }
 }
 
-TEST(PixelRuns, AreLeftOutWhereTheyAreNoShorter) {
-    EXPECT_FALSE(pixelRuns(row({Orange})));
-    EXPECT_FALSE(pixelRuns(row({Orange, Orange, Blue, Blue})));
-    EXPECT_FALSE(pixelRuns(row({Orange, Blue, Orange, Blue, Orange})));
-    EXPECT_TRUE(pixelRuns(row({Orange, Orange, Blue, Blue, Blue})));
+TEST(PixelRuns, AreHardlyEverLongerThanThePixels) {
+    std::vector<Rgba8> pixels;
+    for (int i = 0; i < 1000; ++i)
+        for (int count = 0; count <= i % 4; ++count)  // one to four of each colour
+            pixels.push_back(i % 2 == 0 ? Orange : Blue);
+    EXPECT_LE(pixelRuns(row(pixels)).size(), pixels.size() * 4 + 8);
 }
 
 }  // namespace

@@ -28,23 +28,30 @@ export async function stateAfter(revision) {
   return response.status === 204 ? null : response.json();
 }
 
-/// The pixels of an answer. Bytes stand for red, green, blue and alpha; a run is the
-/// number of its pixels and the one that they all are, 4 bytes each.
-function imageOf(form, bytes, width, height) {
-  if (form === 'pixels') return new ImageData(new Uint8ClampedArray(bytes), width, height);
+const AsTheyAre = 2 ** 31;
+
+/// The pixels of an answer, which are numbers N, each with a pixel that stands N times
+/// or, beyond 2^31, with N of them. A pixel is red, green, blue and alpha, a byte each.
+function imageOf(bytes, width, height) {
   const image = new ImageData(width, height);
   const pixels = new Uint32Array(image.data.buffer);
-  const runs = new Uint32Array(bytes);
-  for (let i = 0, at = 0; i < runs.length; i += 2)
-    pixels.fill(runs[i + 1], at, at += runs[i]);
+  const numbers = new Uint32Array(bytes);
+  for (let i = 0, at = 0; i < numbers.length;) {
+    const count = numbers[i++];
+    if (count < AsTheyAre) pixels.fill(numbers[i++], at, at += count);
+    else {
+      const several = numbers.subarray(i, i += count - AsTheyAre);
+      pixels.set(several, at);
+      at += several.length;
+    }
+  }
   return image;
 }
 
 /// A picture as it came, and the revision it shows.
 async function pictureOf(response) {
-  const header = name => response.headers.get(name);
-  const [width, height, revision] = ['X-Width', 'X-Height', 'X-Revision'].map(name => Number(header(name)));
-  return {revision, image: imageOf(header('X-Form'), await response.arrayBuffer(), width, height)};
+  const [width, height, revision] = ['X-Width', 'X-Height', 'X-Revision'].map(name => Number(response.headers.get(name)));
+  return {revision, image: imageOf(await response.arrayBuffer(), width, height)};
 }
 
 /// Carries out an edit: the revision that has it, and the picture of the viewer then,
@@ -55,7 +62,7 @@ export async function sendEdit(edit, viewer) {
     headers: {'Content-Type': 'application/json'},
     body: JSON.stringify(edit),
   });
-  return response.headers.has('X-Form') ? pictureOf(response) : response.json();
+  return response.headers.has('X-Width') ? pictureOf(response) : response.json();
 }
 
 /// The picture of a viewer.
