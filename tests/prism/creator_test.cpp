@@ -141,6 +141,11 @@ TEST_P(FreshObject, HasNoMapAndNoIcon) {
     EXPECT_EQ(object->xpm_icon(), "");
 }
 
+TEST_P(FreshObject, ShowsItsMapToEverybody) {
+    ObjectPtr const object = create(GetParam().key());
+    EXPECT_EQ(object->slot("colormap")->expertLevel(), 0);
+}
+
 TEST_P(FreshObject, HasTheParametersInTheirOrder) {
     ObjectPtr const object = create(GetParam().key());
     auto const found = inputs(*object);

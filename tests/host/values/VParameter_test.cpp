@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <functional>
 #include <vector>
 
@@ -35,6 +36,15 @@ double numberIn(ValuePtr const& value) {
     double number = -99;
     Double(value)->getValue(number);
     return number;
+}
+
+TEST(AParameterThatNoObjectOwns, HasANameOfItsOwnWithItsShortOneBehindADot) {
+    auto const one = doubleParameter(1), other = doubleParameter(1);
+    EXPECT_TRUE(one->Name().starts_with("unbound")) << one->Name();
+    EXPECT_TRUE(one->Name().ends_with(".width")) << one->Name();
+    EXPECT_EQ(std::ranges::count(one->Name(), '.'), 1);
+    EXPECT_TRUE(std::isdigit(*(one->Name().end() - 7))) << one->Name();
+    EXPECT_NE(one->Name(), other->Name());
 }
 
 TEST(ParameterOperations, StandInTheirOrder) {
