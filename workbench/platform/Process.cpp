@@ -159,6 +159,27 @@ fs::path orEmpty(fs::path const& file) {
 
 #if defined(_WIN32)
 
+namespace {
+
+/// Starts a program; the system's error if it cannot, else 0. A busy Wine now and then
+/// ends a process before its program begins, and calls that an internal error: the next
+/// try starts it.
+DWORD startProcess(std::filesystem::path const& program, std::wstring const& line,
+                   std::wstring& environment, STARTUPINFOW& start, PROCESS_INFORMATION& process) {
+    constexpr int Tries = 3;
+    DWORD failure = ERROR_INTERNAL_ERROR;
+    for (int i = 0; i < Tries && failure == ERROR_INTERNAL_ERROR; ++i) {
+        std::wstring own = line;  // which the call may write into
+        bool const started = CreateProcessW(program.c_str(), own.data(), nullptr, nullptr, TRUE,
+                                            CREATE_UNICODE_ENVIRONMENT, environment.data(), nullptr,
+                                            &start, &process) != 0;
+        failure = started ? 0 : GetLastError();
+    }
+    return failure;
+}
+
+}  // namespace
+
 ProcessEnd runToEnd(fs::path const& program, std::vector<std::string> const& arguments,
                     ProcessStreams const& streams, ProcessOptions const& options) {
     std::wstring line = quotedArgument(program.wstring());
@@ -172,13 +193,10 @@ ProcessEnd runToEnd(fs::path const& program, std::vector<std::string> const& arg
     start.hStdOutput = openStream(orEmpty(streams.out), true);
     start.hStdError = openStream(orEmpty(streams.err), true);
     PROCESS_INFORMATION process{};
-    bool const started = CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE,
-                                        CREATE_UNICODE_ENVIRONMENT, environment.data(), nullptr,
-                                        &start, &process) != 0;
-    DWORD const failure = started ? 0 : GetLastError();
+    DWORD const failure = startProcess(program, line, environment, start, process);
     for (HANDLE const handle : {start.hStdInput, start.hStdOutput, start.hStdError})
         CloseHandle(handle);
-    if (!started)
+    if (failure != 0)
         throw std::runtime_error("cannot start " + textOf(program) + ", error " +
                                  std::to_string(failure));
     ProcessEnd const end = waitFor(process.hProcess, options.seconds);
