@@ -55,7 +55,7 @@ public:
 private:
     /// The second default where the object was made with the word "ort".
     rgba_float_t either(rgba_float_t const& first, rgba_float_t const& second) const {
-        return preferences()->contains("ort") ? second : first;
+        return preferences() && preferences()->contains("ort") ? second : first;
     }
 
     TypedSlot<rgba_float_t> startcolor{

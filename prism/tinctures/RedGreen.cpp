@@ -46,7 +46,7 @@ public:
 private:
     /// The second default where the object was made with the word "muv".
     rgba_float_t either(rgba_float_t const& first, rgba_float_t const& second) const {
-        return preferences()->contains("muv") ? second : first;
+        return preferences() && preferences()->contains("muv") ? second : first;
     }
 
     TypedSlot<rgba_float_t> startcolor{
