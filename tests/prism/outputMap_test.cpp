@@ -3,22 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/prism/ForeignMap.hpp"
 #include "tests/support/objects.hpp"
 
 namespace tests {
 namespace {
 
 using namespace Orlo;
-
-class Black : public Colormap {
-public:
-    int getMin() const override { return 0; }
-    int getMax() const override { return 1; }
-    int getSize() const override { return 1; }
-    rgba_float_t getColor(double) const override { return {}; }
-    std::string getLabel() const override { return {}; }
-    std::intptr_t getExtra() const override { return 0; }
-};
 
 class Painter : public Tincture {
 public:
@@ -31,10 +22,10 @@ TEST(OutputMaps, AreNobodysBeforeOneIsHeld) {
     VRequest const request(makePool());
     prism::OutputMap output(*painter, request);
     EXPECT_TRUE(output.isEmpty());
-    EXPECT_EQ(output.as<Black>(), nullptr);
-    output.hold(new Black);
+    EXPECT_EQ(output.as<ForeignMap>(), nullptr);
+    output.hold(new ForeignMap);
     EXPECT_FALSE(output.isEmpty());
-    EXPECT_NE(output.as<Black>(), nullptr);
+    EXPECT_NE(output.as<ForeignMap>(), nullptr);
 }
 
 }  // namespace
