@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 
+#include "workbench/common/files.hpp"
 #include "workbench/common/paths.hpp"
 #include "workbench/platform/Process.hpp"
 #include "workbench/platform/program.hpp"
@@ -15,11 +15,6 @@ namespace fs = std::filesystem;
 using workbench::textOf;
 
 namespace {
-
-std::string readAll(fs::path const& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 std::vector<std::string> lines(std::string const& text) {
     std::istringstream stream(text);
@@ -57,9 +52,9 @@ ProcessResult runProcess(fs::path const& program, std::vector<std::string> const
     ProcessResult result;
     result.status = workbench::runToEnd(program, arguments, streams).status;
     if (redirection.out.empty())
-        result.out = readAll(streams.out);
+        result.out = workbench::readFile(streams.out);
     if (redirection.err.empty())
-        result.err = readAll(streams.err);
+        result.err = workbench::readFile(streams.err);
     return result;
 }
 

@@ -1,15 +1,12 @@
 /// Results as JSON.
 #pragma once
 
-#include <nlohmann/json.hpp>
 #include <string>
 
 #include "workbench/cli/numbers.hpp"
+#include "workbench/common/Json.hpp"
 
 namespace workbench {
-
-/// Keeps its keys in the order in which they are written.
-using Json = nlohmann::ordered_json;
 
 /// A number in its shortest form. JSON knows no infinity and no NaN: these are
 /// the texts "inf", "-inf" and "nan".
@@ -20,10 +17,9 @@ Json jsonNumber(Number value) {
     return finite ? Json(readNumber(text).value()) : Json(text);
 }
 
-/// The whole document. What is no UTF-8 in a text becomes the replacement
-/// character.
+/// The whole document, as a command prints it.
 inline std::string jsonDocument(Json const& json) {
-    return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+    return jsonText(json, 2) + "\n";
 }
 
 }  // namespace workbench

@@ -107,7 +107,10 @@ std::string readFile(fs::path const& file) {
     std::ifstream stream(file, std::ios::binary);
     if (!stream)
         fail("read", file, lastReason());
-    std::string bytes{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    std::string bytes;
+    char block[16384];
+    while (stream.read(block, sizeof block) || stream.gcount() > 0)
+        bytes.append(block, static_cast<std::size_t>(stream.gcount()));
     if (stream.bad())
         fail("read", file, lastReason());
     return bytes;

@@ -1,17 +1,14 @@
 /// A preset of ParaView. All keys are spelled out, since it leaves those that a
 /// preset does not name as the one before had them; but IndexedColors, even empty,
 /// would make it a preset of categories.
-#include <nlohmann/json.hpp>
 
+#include "workbench/common/Json.hpp"
 #include "workbench/export/notation.hpp"
 #include "workbench/export/writers.hpp"
 
 namespace workbench {
 
 namespace {
-
-/// Keeps its keys in the order in which they are written.
-using Json = nlohmann::ordered_json;
 
 Json rgb(Orlo::rgba_float_t const& color) {
     return {color[0], color[1], color[2]};
@@ -46,7 +43,7 @@ std::string write(Model const& model) {
                          {"DefaultMap", false},
                          {"Creator", model.origin.maker},
                          {"Source", aboutLines(model, 0)}};
-    return Json::array({preset}).dump(1, ' ', false, Json::error_handler_t::replace) + "\n";
+    return jsonText(Json::array({preset}), 1) + "\n";
 }
 
 }  // namespace

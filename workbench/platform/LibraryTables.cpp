@@ -2,15 +2,13 @@
 
 #include <cstdint>
 #include <cstring>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
+
+#include "workbench/common/files.hpp"
 
 namespace workbench {
 
-LibraryTables::LibraryTables(std::filesystem::path const& file) {
-    std::ifstream stream(file, std::ios::binary);
-    bytes_.assign(std::istreambuf_iterator<char>(stream), {});
+LibraryTables::LibraryTables(std::filesystem::path const& file) : bytes_(readFile(file)) {
     if (bytes_.starts_with("\x7f"
                            "ELF\x02\x01"))
         readElf();

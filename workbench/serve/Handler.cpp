@@ -181,7 +181,7 @@ std::optional<Response> pageFile(string_view path) {
 }  // namespace
 
 Response errorResponse(unsigned status, string const& reason) {
-    return {.status = status, .type = JsonType, .body = textOf(Json{{"error", reason}})};
+    return {.status = status, .type = JsonType, .body = jsonText(Json{{"error", reason}})};
 }
 
 std::vector<std::pair<string, string>> const& commonHeaders() {
@@ -271,7 +271,7 @@ Response Handler::post(string_view path, std::optional<string> const& viewer,
         } catch (std::exception const&) {
             // The change is made. Whoever asks for the picture hears why there is none.
         }
-    return json(textOf(Json{{"revision", revision}}));
+    return json(jsonText(Json{{"revision", revision}}));
 }
 
 string newSecret() {

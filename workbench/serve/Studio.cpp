@@ -47,7 +47,7 @@ double numberIn(Json const& change, char const* name) {
 }
 
 Json readChange(string const& text) {
-    Json change = Json::parse(text, nullptr, false);
+    Json change = readJson(text);
     if (!change.is_object())
         throw CallError("the change is no JSON object");
     return change;

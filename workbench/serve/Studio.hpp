@@ -12,9 +12,9 @@
 #include <vector>
 
 #include "host/colormap/Colormap.hpp"
+#include "workbench/common/Json.hpp"
 #include "workbench/common/errors.hpp"
 #include "workbench/picture/Image.hpp"
-#include "workbench/serve/Json.hpp"
 #include "workbench/serve/PluginWatch.hpp"
 #include "workbench/serve/World.hpp"
 #include "workbench/serve/describe.hpp"

@@ -4,7 +4,7 @@
 #include <map>
 #include <string>
 
-#include "workbench/serve/Json.hpp"
+#include "workbench/common/Json.hpp"
 #include "workbench/serve/World.hpp"
 
 namespace workbench {

@@ -50,7 +50,7 @@ string const& Studio::state() {
                {"complaints", complaintsOf(network())},
                {"viewers", viewersOf(network(), refreshed)},
                {"nodes", nodesOf(network(), refreshed)}};
-    return state_.emplace(textOf(state));
+    return state_.emplace(jsonText(state));
 }
 
 std::shared_ptr<Image const> Studio::picture(string const& viewer) {
@@ -91,7 +91,7 @@ string Studio::probe(string const& viewer, int x, int y) {
     for (string const& name : network().names())
         if (reading.map && mapOf(*network().object(name), pool).get() == reading.map.get())
             answer["map"] = name;
-    return textOf(answer);
+    return jsonText(answer);
 }
 
 /// The present map of an object, with the values of the first viewer.
@@ -121,7 +121,7 @@ string Studio::icon(string const& name) {
 
 string const& Studio::catalogue() {
     if (!catalogue_)
-        catalogue_ = textOf(catalogueOf(world_->session()));
+        catalogue_ = jsonText(catalogueOf(world_->session()));
     return *catalogue_;
 }
 

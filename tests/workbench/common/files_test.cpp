@@ -39,10 +39,12 @@ TEST(Files, BytesComeBackAsTheyWere) {
     tests::TemporaryFolder const folder;
     std::string bytes("\r\n\0\x1a\xff end", 9);
     bytes.append(100'000, 'x');
-    writeFile(folder / "bytes", bytes);
-    EXPECT_EQ(readFile(folder / "bytes"), bytes);
-    writeFile(folder / "empty", "");
-    EXPECT_EQ(readFile(folder / "empty"), "");
+    std::size_t const sizes[] = {0,     1,     9,     16383,
+                                 16384, 16385, 32768, 100'009};  // blocks have 16384
+    for (std::size_t const size : sizes) {
+        writeFile(folder / "bytes", bytes.substr(0, size));
+        EXPECT_EQ(readFile(folder / "bytes"), bytes.substr(0, size));
+    }
 }
 
 TEST(Files, ANameMayHoldAnyLetter) {
@@ -68,6 +70,10 @@ TEST(Files, WhatCannotBeReadIsNamedWithTheReason) {
               "cannot read '" + textOf(missing) + "': No such file or directory");
     EXPECT_EQ(errorOf([&] { readFile(folder.path()); }),
               "cannot read '" + textOf(folder.path()) + "': it is a folder");
+#if !defined(_WIN32)
+    EXPECT_EQ(errorOf([] { readFile("/proc/self/mem"); }),  // where nothing can be read at 0
+              "cannot read '/proc/self/mem': Input/output error");
+#endif
 }
 
 TEST(Files, WhatCannotBeWrittenIsNamedWithTheReason) {

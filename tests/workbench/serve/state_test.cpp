@@ -79,7 +79,7 @@ TEST_F(State, EveryCandidateCanBeConnected) {
                                   {"parameter", candidate["parameter"]}};
                 std::uint64_t const before = studio_.revision();
                 std::uint64_t after = before;
-                EXPECT_NO_THROW(after = studio_.edit(textOf(change))) << change;
+                EXPECT_NO_THROW(after = studio_.edit(jsonText(change))) << change;
                 if (after != before)
                     studio_.edit(R"({"do":"undo"})");
                 ++tried;
@@ -111,9 +111,9 @@ TEST(Failing, NetworksAreServedAndTellOfEachFaultAtItsNode) {
     EXPECT_TRUE(nodes["Map"]["isMap"]);
     EXPECT_THAT(nodes["Map"]["faults"][0].get<std::string>(), HasSubstr("no entry"));
     EXPECT_EQ(nodes["Map"]["parameters"][0]["text"], "3");
-    EXPECT_THAT(textOf(nodes["Slice"]["faults"]), HasSubstr("'much' is no value"));
-    EXPECT_THAT(textOf(nodes["Slice"]["faults"]), HasSubstr("there is no colour map"));
-    EXPECT_THAT(textOf(nodes["Legend"]["faults"]), HasSubstr("there is no colour map"));
+    EXPECT_THAT(jsonText(nodes["Slice"]["faults"]), HasSubstr("'much' is no value"));
+    EXPECT_THAT(jsonText(nodes["Slice"]["faults"]), HasSubstr("there is no colour map"));
+    EXPECT_THAT(jsonText(nodes["Legend"]["faults"]), HasSubstr("there is no colour map"));
     EXPECT_EQ(studio.picture("Viewer1")->width(), 60);
 
     studio.edit(R"({"do":"set","object":"Slice","name":"transparency","text":"1"})");
