@@ -24,7 +24,7 @@ std::vector<std::string> outputsOf(Orlo::VObject const& object) {
 
 /// A limit as the number that its text is, if it is one.
 Json limitAsJson(std::string const& text) {
-    Json const number = readJson(text);
+    Json number = readJson(text);
     if (number.is_number())
         return number;
     return text.empty() ? Json() : Json(text);

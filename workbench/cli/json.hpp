@@ -1,6 +1,7 @@
 /// Results as JSON.
 #pragma once
 
+#include <cmath>
 #include <string>
 
 #include "workbench/cli/numbers.hpp"
@@ -13,8 +14,7 @@ namespace workbench {
 template <class Number>
 Json jsonNumber(Number value) {
     std::string const text = shortest(value);
-    bool const finite = value - value == 0;
-    return finite ? Json(readNumber(text).value()) : Json(text);
+    return std::isfinite(value) ? Json(readNumber(text).value()) : Json(text);
 }
 
 /// The whole document, as a command prints it.

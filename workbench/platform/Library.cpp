@@ -98,6 +98,8 @@ struct Tables {
     /// The symbols are counted by their hash table only. The newer one has, for each of
     /// its chains, the first symbol, and marks the last one by an odd number.
     std::size_t count() const {
+        if (symbols == nullptr || names == nullptr)
+            return 0;
         if (hash != nullptr)
             return hash[1];
         if (gnuHash == nullptr)

@@ -135,7 +135,8 @@ void LibraryTables::readPe() {
     std::size_t const table = optional + number<std::uint16_t>(start + 20);
     for (std::size_t i = 0; i < count; ++i) {
         std::size_t const header = table + 40 * i;
-        std::string const name(bytes(header, 8).c_str());
+        std::string const padded = bytes(header, 8);
+        std::string const name = padded.substr(0, padded.find('\0'));
         PeSection const section{number<std::uint32_t>(header + 12),
                                 number<std::uint32_t>(header + 16),
                                 number<std::uint32_t>(header + 20)};

@@ -76,6 +76,8 @@ PRISM_VISIBLE int pthread_rwlock_wrlock(pthread_rwlock_t* lock) noexcept {
     return theNext(lock);
 }
 
+// The C library's own names of these parameters are reserved.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 PRISM_VISIBLE int open(char const* file, int flags, ...) {
     PRISM_NEXT(open);
     noteTouch("opened the file", file);
@@ -139,6 +141,7 @@ PRISM_VISIBLE int putenv(char* text) noexcept {
     noteTouch("wrote the environment's", text);
     return theNext(text);
 }
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
 }
 
 namespace workbench {

@@ -18,10 +18,10 @@
 #else
 #include <malloc.h>
 #include <sys/prctl.h>
+#include <unistd.h>
 
 #include <csignal>
 
-extern char** environ;
 #if PRISM_ADDRESS_SANITIZER
 // The sanitizer's own count; not every compiler brings the header for it.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();

@@ -12,6 +12,7 @@ using Tessar::rgba_float_t;
 
 std::vector<double> scalarsTo(int count) {
     std::vector<double> all;
+    all.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         all.push_back(i / double(count - 1));
     return all;

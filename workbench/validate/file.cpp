@@ -63,7 +63,7 @@ void exportOfAPlugin(Trial& trial) {
     require(!found.empty(),
             "the file exports " + (tables.exports.empty() ? "nothing" : joined(tables.exports)));
     std::smatch parts;
-    std::string const name = found.front();
+    std::string const& name = found.front();
     static std::regex const form("TELM_API_([0-9]{4}_[A-Z]{3}_[0-9]{2})__([A-Za-z0-9_]+)");
     require(std::regex_match(name, parts, form), "the export is called " + inQuotes(name));
     require(parts[1] == "2024_MAR_06",
