@@ -175,10 +175,8 @@ void mapOutlives(Trial& trial) {
 
 void deletesAll(Trial& trial) {
     withEntries(trial, [](WeakCreatorPtr const& entry) {
-        std::vector<ObjectPtr> objects;
-        for (int i = 0; i < 3; ++i)
-            objects.push_back(create(entry));
-        deleteAll(*entry, *objects.front());
+        ObjectPtr const objects[] = {create(entry), create(entry), create(entry)};
+        deleteAll(*entry, *objects[0]);
         for (ObjectPtr const& object : objects)
             require(!object, "an object lives on when its creator has deleted all");
         require(entry->instances().empty(), "the entry still knows objects that it has deleted");
