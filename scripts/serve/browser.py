@@ -6,13 +6,16 @@ import contextlib
 import json
 import os
 import pathlib
+import random
 import select
 import shutil
 import subprocess
 import tempfile
 import time
 
-PATIENCE = 15.0  # seconds for whatever a person would wait for
+PATIENCE = 60.0  # seconds for whatever a person would wait for, on a busy machine
+SLOWNESS = 6     # how many times slower a slow browser computes
+LATENCY = 2.0    # seconds at most that a slow browser waits for an answer; few take long
 
 KEYS = {  # name: (code, virtual key)
     "ArrowLeft": ("ArrowLeft", 37), "ArrowUp": ("ArrowUp", 38), "ArrowRight": ("ArrowRight", 39),
@@ -27,7 +30,12 @@ class Trouble(AssertionError):
 
 
 class Browser:
-    def __init__(self):
+    """A slow one computes slowly, and answers reach it late and in any order, as on
+    a busy machine: what does not wait for what it needs, fails."""
+
+    def __init__(self, slow=None):
+        self.slow = slow and random.Random(slow)
+        self.late = []  # answers kept back: (when they may go on, page, number)
         self.folder = tempfile.mkdtemp()
         to_child, self.write_end = os.pipe()
         self.read_end, from_child = os.pipe()
@@ -63,13 +71,17 @@ class Browser:
             self.process.wait()
         shutil.rmtree(self.folder, ignore_errors=True)
 
-    def call(self, method, session=None, **parameters):
+    def send(self, method, session=None, **parameters):
+        """The number of the message."""
         self.count += 1
         message = {"id": self.count, "method": method, "params": parameters}
         if session:
             message["sessionId"] = session
         os.write(self.write_end, json.dumps(message).encode() + b"\0")
-        ours = self.count
+        return self.count
+
+    def call(self, method, session=None, **parameters):
+        ours = self.send(method, session, **parameters)
         end = time.monotonic() + PATIENCE
         while True:
             answer = self.receive(end)
@@ -83,8 +95,12 @@ class Browser:
     def receive(self, end):
         """The next message; events go to their pages. None when the time is over."""
         while b"\0" not in self.rest:
-            ready, _, _ = select.select([self.read_end], [], [], max(end - time.monotonic(), 0))
+            self.let_go()
+            until = min([end, *(each[0] for each in self.late)])
+            ready, _, _ = select.select([self.read_end], [], [], max(until - time.monotonic(), 0))
             if not ready:
+                if time.monotonic() < end:
+                    continue
                 return None
             piece = os.read(self.read_end, 1 << 20)
             if not piece:
@@ -97,6 +113,17 @@ class Browser:
         elif message.get("method") == "Browser.downloadProgress":
             self.saved += message["params"]["state"] == "completed"
         return message
+
+    def keep_back(self, page, number):
+        self.late.append((time.monotonic() + LATENCY * self.slow.random() ** 4, page, number))
+
+    def let_go(self):
+        """Hands on the answers whose time has come."""
+        now = time.monotonic()
+        due = [each for each in self.late if each[0] <= now]
+        self.late = [each for each in self.late if each[0] > now]
+        for _, page, number in due:
+            self.send("Fetch.continueResponse", page, requestId=number)
 
     def open(self, address, width=1400, height=900, dark=False):
         """A page in a tab of its own."""
@@ -129,6 +156,9 @@ class Page:
                   mobile=width < 500)
         self.call("Emulation.setEmulatedMedia",
                   features=[{"name": "prefers-color-scheme", "value": "dark" if dark else "light"}])
+        if browser.slow:
+            self.call("Emulation.setCPUThrottlingRate", rate=SLOWNESS)
+            self.call("Fetch.enable", patterns=[{"requestStage": "Response"}])
         self.call("Page.navigate", url=address)
 
     def close(self):
@@ -153,6 +183,8 @@ class Page:
             if self.forgiven and self.forgiven in text:
                 return
             (self.refusals if "status of 4" in text else self.faults).append(text)
+        elif method == "Fetch.requestPaused":
+            self.browser.keep_back(self.session, event["requestId"])
         elif method == "Network.requestWillBeSent":
             url = event["request"]["url"]
             self.requests.append((event["request"]["method"], url))
@@ -185,17 +217,15 @@ class Page:
         return self.evaluate(f"document.querySelector({json.dumps(selector)})?.value ?? null")
 
     def place(self, selector, right=0.5, down=0.5):
-        """Where something is on the screen, brought there first."""
+        """Where something is on the screen, once it can be seen, brought there first."""
         name = json.dumps(selector)
-        box = self.evaluate(f"""(() => {{
+        box = self.wait(f"""(() => {{
             const found = document.querySelector({name});
             if (!found) return null;
             found.scrollIntoView({{block: 'nearest', inline: 'nearest'}});
             const {{x, y, width, height}} = found.getBoundingClientRect();
-            return {{x, y, width, height}};
-        }})()""")
-        if not box or not box["width"]:
-            raise Trouble(f"there is nothing to be seen of {selector}")
+            return width ? {{x, y, width, height}} : null;
+        }})()""", f"there is something to be seen of {selector}")
         return box["x"] + box["width"] * right, box["y"] + box["height"] * down
 
     # The hands of a person

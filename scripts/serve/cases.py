@@ -58,9 +58,10 @@ def opens(room):
 
 
 def drawn(image):
-    """An expression for what a picture element shows."""
+    """An expression for what a picture element shows; null before it has loaded."""
     return f"""(() => {{
         const image = document.querySelector('{image}');
+        if (!image?.complete || image.naturalWidth < 2) return null;
         const canvas = Object.assign(document.createElement('canvas'), {{width: image.naturalWidth, height: image.naturalHeight}});
         canvas.getContext('2d').drawImage(image, 0, 0);
         return canvas.toDataURL();
@@ -70,13 +71,12 @@ def drawn(image):
 @case("a map wears the icon that its object draws, and another map another one")
 def wears_icon(room):
     page = room.open()
-    page.wait(f"document.querySelector('{box(MAP)} .icon')?.naturalWidth > 2", "the map wears an icon")
     draw = drawn(f"{box(MAP)} .icon")
-    before = page.evaluate(draw)
+    before = page.wait(draw, "the map wears an icon")
     page.select(MAP)
     page.click('#entries [data-key="Colormaps/Muv"] .entry')
     page.settle()
-    page.wait(f"{draw} !== {json.dumps(before)}", "the icon follows the map")
+    page.wait(f"![null, {json.dumps(before)}].includes({draw})", "the icon follows the map")
 
 
 @case("a click selects an object, and its parameters stand beside the picture")
@@ -559,13 +559,13 @@ def follows_plugin(room):
     page.set(value("transparency", "[type=text]"), "0.5")
     before = page.pixels()
     ramp = drawn('#entries [data-key="Colormaps/Hypsometric"] img')
-    first_ramp = page.evaluate(ramp)
+    first_ramp = page.wait(ramp, "the catalogue shows the ramp")
     put(plugin, recolored(plugin))
     page.wait("Number(document.querySelector('canvas').dataset.revision) >= 3", "the picture is drawn anew")
     page.settle()
     equal(page.pixels(), pixel_hash(room.picture("FieldSlice.transparency=0.5", plugin=plugin)), "the pixels")
     expect(page.pixels() != before, "the colours are new")
-    page.wait(f"{ramp} !== {json.dumps(first_ramp)}", "the catalogue's ramp is that of the new build")
+    page.wait(f"![null, {json.dumps(first_ramp)}].includes({ramp})", "the catalogue's ramp is that of the new build")
     shown = page.pixels()
     put(plugin, b"no library")
     reason = page.wait("document.querySelector('#banners').textContent", "the page tells that it does not load")

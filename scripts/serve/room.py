@@ -40,12 +40,14 @@ class Room:
         return self.serving
 
     def open(self, **window):
-        """The page, once it shows its first picture."""
+        """The page, once it shows its first pictures and all that can be made."""
         if not self.serving:
             self.serve(self.network)
         page = LivePage(self.browser.open(self.serving.address, **window))
         self.pages.append(page)
         page.wait("document.querySelector('canvas')?.dataset.revision", "the page opens with a picture")
+        page.wait("!!document.querySelector('#entries [data-key]')", "the page opens with the catalogue")
+        page.settle()
         return page
 
     def shut(self, page):

@@ -95,8 +95,8 @@ std::vector<Row> brokenPlugins() {
         {"neverUnloads", "file/unloads", StartsWith("failed: the library is still")},
         {"hangs",
          "cycle/publishes",
-         "timed out: it did not come back within 5 seconds",
-         {"--limit", "5"}},
+         "timed out: it did not come back within 10 seconds",
+         {"--limit", "10"}},
         {"callsExit", "cycle/publishes",
          "crashed: the process was ended with status 0 before the test was done"},
         // These are put through the tests alone that are about such a thing.
