@@ -2,8 +2,6 @@
 /// program's own.
 #include <gmock/gmock.h>
 
-#include <functional>
-#include <memory>
 #include <stdexcept>
 #include <vector>
 
@@ -285,49 +283,6 @@ TEST_F(Creators, TellListenersOfTheObjectItsContextAndThemselves) {
     EXPECT_EQ(listener.creators[0].get(), &entry);
 }
 
-/// Does something when it hears a warning.
-class Acting : public VActionNotifier {
-public:
-    void warned(std::string const&) override {
-        ++heard;
-        if (act)
-            act();
-    }
-    int heard = 0;
-    std::function<void()> act;
-};
-
-TEST(Listeners, MayGoWhileTheyHear) {
-    auto first = std::make_unique<Acting>(), second = std::make_unique<Acting>();
-    auto self = std::make_unique<Acting>();
-    Acting last;
-    first->act = [&] { second.reset(); };
-    self->act = [&] { self.reset(); };
-    VActionNotifier::Warning("one");
-    EXPECT_EQ(first->heard, 1);
-    EXPECT_FALSE(second) << "destroyed before it would have heard";
-    EXPECT_FALSE(self);
-    EXPECT_EQ(last.heard, 1) << "nobody is left out";
-    VActionNotifier::Warning("two");
-    EXPECT_EQ(first->heard, 2);
-    EXPECT_EQ(last.heard, 2);
-}
-
-TEST(Listeners, WhoComeWhileOthersHearHearTheNextNews) {
-    std::vector<std::unique_ptr<Acting>> newcomers;
-    Acting first;
-    first.act = [&] {
-        for (int i = 0; i < 100; ++i)
-            newcomers.push_back(std::make_unique<Acting>());
-        first.act = nullptr;
-    };
-    VActionNotifier::Warning("one");
-    ASSERT_EQ(newcomers.size(), 100u);
-    EXPECT_EQ(newcomers.back()->heard, 0);
-    VActionNotifier::Warning("two");
-    EXPECT_EQ(newcomers.back()->heard, 1);
-}
-
 TEST_F(Creators, KeepTheTokenThatTheyWereBuiltAgainst) {
     Entry const entry;
     EXPECT_STREQ(entry.token(), "TELM_API_VERSION");
@@ -469,55 +424,6 @@ TEST_F(Creators, UnregisterBeforeTheirObjectsDie) {
         object = entry.create("", Nucleo::Intercube(), nullptr);
     }
     EXPECT_EQ(made.died, 2) << "once for the object, once for its base";
-}
-
-// --- Properties
-
-TEST(CreatorProperties, AreFoldedInTheirOrder) {
-    VCreatorProperties const list(TodoIs("todo"), DescriptionIs("text"), TagsAre("a;b"),
-                                  DateIs("Mar 22 2024"), NameIs("Name"), SourceIs("path"),
-                                  CategoryIs("Folder"), NameIs("Later"));
-    EXPECT_EQ(list.get(VCreatorPropertyElements::Category), "Folder");
-    EXPECT_EQ(list.get(VCreatorPropertyElements::Name), "Later") << "the last one holds";
-    EXPECT_EQ(list.get(VCreatorPropertyElements::Description), "text");
-    EXPECT_EQ(list.get(VCreatorPropertyElements::Todo), "todo");
-    EXPECT_EQ(list.get(VCreatorPropertyElements::Tags), "a;b");
-    EXPECT_EQ(list.get(VCreatorPropertyElements::Source), "path");
-    EXPECT_EQ(list.get(VCreatorPropertyElements::Date), "Mar 22 2024");
-}
-
-TEST(CreatorProperties, HaveTheirKeysAtTheirPlaces) {
-    EXPECT_EQ(VCreatorPropertyElements::Category, 0u);
-    EXPECT_EQ(VCreatorPropertyElements::Name, 1u);
-    EXPECT_EQ(VCreatorPropertyElements::Description, 3u);
-    EXPECT_EQ(VCreatorPropertyElements::Todo, 6u);
-    EXPECT_EQ(VCreatorPropertyElements::Tags, 10u);
-    EXPECT_EQ(VCreatorPropertyElements::Source, 11u);
-    EXPECT_EQ(VCreatorPropertyElements::Date, 12u);
-}
-
-TEST(CreatorProperties, TakeOverOnlyWhatIsSet) {
-    VCreatorPropertyBase list;
-    list.assign(NameIs("Name")).assign(CategoryIs("Folder")).assign(VCreatorPropertyBase());
-    EXPECT_EQ(list.keyname("/"), "Folder/Name");
-    EXPECT_EQ(list.keyname("::"), "Folder::Name");
-    list.assign(NameIs("Other"));
-    EXPECT_EQ(list.keyname("/"), "Folder/Other");
-}
-
-TEST(CreatorProperties, TellAnEmptyTextFromOneThatIsNotSet) {
-    VCreatorProperties const list(DescriptionIs(""), NameIs("Name"));
-    EXPECT_TRUE(list.isSet(VCreatorPropertyElements::Description));
-    EXPECT_FALSE(list.isSet(VCreatorPropertyElements::Tags));
-    EXPECT_EQ(list.get(VCreatorPropertyElements::Description), "");
-    EXPECT_EQ(list.get(VCreatorPropertyElements::Tags), "");
-    VCreatorProperties const later(DescriptionIs("text"), DescriptionIs(""));
-    EXPECT_EQ(later.get(VCreatorPropertyElements::Description), "") << "the last one holds";
-}
-
-TEST(CreatorProperties, WithoutACategoryHaveTheNameAsTheirKey) {
-    EXPECT_EQ(VCreatorProperties(NameIs("Name")).keyname("/"), "Name");
-    EXPECT_EQ(VCreatorProperties().keyname("/"), "");
 }
 
 }  // namespace
