@@ -34,7 +34,7 @@ class Browser:
     a busy machine: what does not wait for what it needs, fails."""
 
     def __init__(self, slow=None):
-        self.slow = slow and random.Random(slow)
+        self.slow = None if slow is None else random.Random(slow)
         self.late = []  # answers kept back: (when they may go on, page, number)
         self.folder = tempfile.mkdtemp()
         to_child, self.write_end = os.pipe()
